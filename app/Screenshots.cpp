@@ -1,0 +1,70 @@
+#include "Screenshots.h"
+
+#include "Session.h"
+
+#include "framework/KsDialog.h"
+#include "framework/ModalHook.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QPainter>
+#include <QPixmap>
+
+namespace kesto::workbench {
+
+using ui::framework::CKsDialog;
+using ui::framework::ModalHook;
+
+// The window with a plain title bar of its own, since offscreen windows have no frame.
+bool renderWidget(QWidget& widget, const QString& file) {
+    QCoreApplication::processEvents();
+    const QPixmap client = widget.grab();
+    const qreal ratio = client.devicePixelRatio();
+    const QSize clientSize = client.deviceIndependentSize().toSize();
+    QFont titleFont = widget.font();
+    titleFont.setBold(true);
+    const int titleHeight = QFontMetrics(titleFont).height() + 12;
+    QPixmap framed(QSize(clientSize.width() + 2, clientSize.height() + titleHeight + 1) * ratio);
+    framed.setDevicePixelRatio(ratio);
+    framed.fill(QColor(0x9a, 0xa3, 0xad));
+    QPainter painter(&framed);
+    const QRect title(1, 1, clientSize.width(), titleHeight - 1);
+    painter.fillRect(title, QColor(0xe4, 0xe8, 0xee));
+    painter.setFont(titleFont);
+    painter.setPen(QColor(0x20, 0x24, 0x2a));
+    painter.drawText(title.adjusted(10, 0, -30, 0), Qt::AlignVCenter | Qt::AlignLeft,
+                     widget.windowTitle());
+    painter.drawText(title.adjusted(0, 0, -10, 0), Qt::AlignVCenter | Qt::AlignRight,
+                     QStringLiteral("×"));
+    painter.drawPixmap(1, titleHeight, client);
+    painter.end();
+    return framed.save(file, "PNG");
+}
+
+QStringList renderTopicScreenshots(Session& session, const QString& dir, QString* error) {
+    QStringList written;
+    if (!QDir().mkpath(dir)) {
+        *error = QStringLiteral("cannot create %1").arg(dir);
+        return written;
+    }
+    for (const Topic& topic : session.topics()) {
+        for (const Shot& shot : topic.shots) {
+            const QString name = shot.suffix.isEmpty() ? topic.id : topic.id + u'-' + shot.suffix;
+            const QString file = QDir(dir).filePath(name + QStringLiteral(".png"));
+            ModalHook::setStandingDriver([&](CKsDialog& dialog) {
+                if (shot.arrange)
+                    shot.arrange(dialog);
+                if (renderWidget(dialog, file))
+                    written << file;
+                dialog.EndDialog(ui::framework::IDCANCEL);
+            });
+            bool changed = false;
+            QString ignored;
+            session.openTopic(topic, &changed, &ignored);
+        }
+    }
+    ModalHook::setStandingDriver({});
+    return written;
+}
+
+} // namespace kesto::workbench

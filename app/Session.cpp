@@ -1,0 +1,68 @@
+#include "Session.h"
+
+#include "DrawingFile.h"
+
+#include "core/SystemConfig.h"
+
+#include <typeinfo>
+
+namespace kesto::workbench {
+
+Session::Session(std::vector<Topic> topics, std::shared_ptr<core::CSystemConfig> config,
+                 SettingsStore store)
+    : m_topics(std::move(topics))
+    , m_config(std::move(config))
+    , m_store(std::move(store)) {}
+
+Session::~Session() {
+    closeDrawing();
+}
+
+std::vector<SettingsStore::Problem> Session::load() {
+    return m_store.loadAll(m_topics, *m_config);
+}
+
+const Topic* Session::findTopic(const QString& id) const {
+    for (const Topic& topic : m_topics) {
+        if (topic.id == id)
+            return &topic;
+    }
+    return nullptr;
+}
+
+ui::setting::CSettingBase* Session::currentSetting(const Topic& topic) const {
+    const std::unique_ptr<ui::setting::CSettingBase> probe = topic.makeDefault();
+    for (const auto& setting : m_config->settings()) {
+        if (typeid(*setting) == typeid(*probe))
+            return setting.get();
+    }
+    return nullptr;
+}
+
+bool Session::openTopic(const Topic& topic, bool* changed, QString* error) {
+    *changed = false;
+    ui::setting::CSettingBase* current = currentSetting(topic);
+    if (!current) {
+        *error = QStringLiteral("%1: no current setting").arg(topic.title);
+        return false;
+    }
+    const std::unique_ptr<ui::setting::CSettingBase> defaults = topic.makeDefault();
+    *changed = topic.open(*current, *defaults);
+    return !*changed || m_store.save(*current, error);
+}
+
+bool Session::openDrawing(const QString& path, QString* error) {
+    std::unique_ptr<CMemoryDataBase> db = workbench::openDrawing(path, error);
+    if (!db)
+        return false;
+    m_config->setCurrentDataBase(db.get());
+    m_drawing = std::move(db);
+    return true;
+}
+
+void Session::closeDrawing() {
+    m_config->setCurrentDataBase(nullptr);
+    m_drawing.reset();
+}
+
+} // namespace kesto::workbench

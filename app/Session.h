@@ -1,0 +1,49 @@
+#pragma once
+
+#include "SettingsStore.h"
+#include "Topic.h"
+
+#include "db/MemoryDataBase.h"
+
+#include <QMap>
+
+#include <memory>
+
+namespace kesto::core {
+class CSystemConfig;
+}
+
+namespace kesto::workbench {
+
+// What the workbench works on: the topics, their current settings in the host's
+// configuration, the settings folder and the open drawing.
+class Session {
+public:
+    Session(std::vector<Topic> topics, std::shared_ptr<core::CSystemConfig> config,
+            SettingsStore store);
+    ~Session();
+
+    // Loads every topic's setting; returns the files that could not be read.
+    std::vector<SettingsStore::Problem> load();
+
+    const std::vector<Topic>& topics() const { return m_topics; }
+    const Topic* findTopic(const QString& id) const;
+    ui::setting::CSettingBase* currentSetting(const Topic& topic) const;
+    const SettingsStore& store() const { return m_store; }
+
+    // Runs the topic's dialog; a confirmed change is saved. False with error set when the
+    // change could not be saved (it stays in memory).
+    bool openTopic(const Topic& topic, bool* changed, QString* error);
+
+    bool openDrawing(const QString& path, QString* error);
+    void closeDrawing();
+    const CMemoryDataBase* drawing() const { return m_drawing.get(); }
+
+private:
+    std::vector<Topic> m_topics;
+    std::shared_ptr<core::CSystemConfig> m_config;
+    SettingsStore m_store;
+    std::unique_ptr<CMemoryDataBase> m_drawing;
+};
+
+} // namespace kesto::workbench

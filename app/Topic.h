@@ -1,0 +1,63 @@
+#pragma once
+
+#include "setting/SettingBase.h"
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace kesto::ui::framework {
+class CKsDialog;
+}
+
+namespace kesto::workbench {
+
+class SettingsStore;
+
+// One state of a dialog worth a picture: the file suffix and how to arrange the dialog.
+struct Shot {
+    QString suffix;
+    std::function<void(ui::framework::CKsDialog&)> arrange;
+};
+
+// A settings topic of the workbench: where it is listed, its built-in defaults, and how its
+// entry function is called on the current setting.
+struct Topic {
+    QString group; // subsystem, as listed
+    QString title; // the dialog's title
+    QString id;    // stable key for files and pictures
+    std::function<std::unique_ptr<ui::setting::CSettingBase>()> makeDefault;
+    // Runs the entry function on the current setting; true when it changed the setting.
+    std::function<bool(ui::setting::CSettingBase& current, const ui::setting::CSettingBase& reset)>
+        open;
+    std::vector<Shot> shots;
+};
+
+// Wraps a typed entry function taking (setting, reset value).
+template <class S>
+Topic makeSettingTopic(QString group, QString title, QString id, std::function<S()> defaults,
+                       std::function<bool(S&, const S&)> entry, std::vector<Shot> shots = {}) {
+    Topic topic;
+    topic.group = std::move(group);
+    topic.title = std::move(title);
+    topic.id = std::move(id);
+    topic.makeDefault = [defaults] { return std::make_unique<S>(defaults()); };
+    topic.open = [entry](ui::setting::CSettingBase& current,
+                         const ui::setting::CSettingBase& reset) {
+        auto* typed = dynamic_cast<S*>(&current);
+        const auto* typedReset = dynamic_cast<const S*>(&reset);
+        return typed && typedReset && entry(*typed, *typedReset);
+    };
+    topic.shots = shots.empty() ? std::vector<Shot>{{QString(), {}}} : std::move(shots);
+    return topic;
+}
+
+// Every topic built so far, in the order they are listed.
+std::vector<Topic> allTopics();
+
+// Per subsystem.
+void addSystemTopics(std::vector<Topic>& topics);
+
+} // namespace kesto::workbench

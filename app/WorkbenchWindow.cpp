@@ -1,0 +1,120 @@
+#include "WorkbenchWindow.h"
+
+#include "Session.h"
+
+#include <QAction>
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace kesto::workbench {
+
+namespace {
+constexpr int kTopicIdRole = Qt::UserRole + 1;
+}
+
+WorkbenchWindow::WorkbenchWindow(Session& session, QWidget* parent)
+    : QMainWindow(parent)
+    , m_session(session) {
+    setWindowTitle(QStringLiteral("設定ワークベンチ - kesto-settings"));
+    auto* central = new QWidget(this);
+    auto* layout = new QVBoxLayout(central);
+    m_drawingLabel = new QLabel(central);
+    m_tree = new QTreeWidget(central);
+    auto* openButton = new QPushButton(QStringLiteral("開く"), central);
+    layout->addWidget(m_drawingLabel);
+    layout->addWidget(m_tree, 1);
+    layout->addWidget(openButton, 0, Qt::AlignRight);
+    setCentralWidget(central);
+    buildMenus();
+    buildTopicTree();
+    connect(openButton, &QPushButton::clicked, this, &WorkbenchWindow::openSelectedTopic);
+    connect(m_tree, &QTreeWidget::itemActivated, this, &WorkbenchWindow::openSelectedTopic);
+    statusBar()->showMessage(QStringLiteral("設定フォルダ: %1").arg(m_session.store().folder()));
+    showDrawingState();
+    resize(480, 420);
+}
+
+void WorkbenchWindow::buildMenus() {
+    QMenu* file = menuBar()->addMenu(QStringLiteral("ファイル(&F)"));
+    file->addAction(QStringLiteral("図面を開く(&O)..."), QKeySequence::Open, this,
+                    &WorkbenchWindow::chooseDrawing);
+    file->addAction(QStringLiteral("図面を閉じる(&C)"), this, &WorkbenchWindow::closeDrawing);
+    file->addSeparator();
+    file->addAction(QStringLiteral("終了(&X)"), QKeySequence::Quit, this, &QWidget::close);
+}
+
+void WorkbenchWindow::buildTopicTree() {
+    m_tree->setHeaderHidden(true);
+    m_tree->setRootIsDecorated(true);
+    QTreeWidgetItem* group = nullptr;
+    for (const Topic& topic : m_session.topics()) {
+        if (!group || group->text(0) != topic.group) {
+            group = new QTreeWidgetItem(m_tree, {topic.group});
+            group->setFlags(Qt::ItemIsEnabled);
+            group->setExpanded(true);
+        }
+        auto* item = new QTreeWidgetItem(group, {topic.title});
+        item->setData(0, kTopicIdRole, topic.id);
+    }
+    if (group && group->childCount() > 0)
+        m_tree->setCurrentItem(m_tree->topLevelItem(0)->child(0));
+}
+
+void WorkbenchWindow::openSelectedTopic() {
+    const QTreeWidgetItem* item = m_tree->currentItem();
+    if (!item)
+        return;
+    if (const Topic* topic = m_session.findTopic(item->data(0, kTopicIdRole).toString()))
+        openTopic(*topic);
+}
+
+void WorkbenchWindow::openTopic(const Topic& topic) {
+    bool changed = false;
+    QString error;
+    if (!m_session.openTopic(topic, &changed, &error)) {
+        QMessageBox::warning(this, topic.title,
+                             QStringLiteral("設定を保存できませんでした。\n%1").arg(error));
+        return;
+    }
+    statusBar()->showMessage(changed
+                                 ? QStringLiteral("「%1」を保存しました。").arg(topic.title)
+                                 : QStringLiteral("「%1」は変更されていません。").arg(topic.title),
+                             5000);
+}
+
+void WorkbenchWindow::chooseDrawing() {
+    const QString path =
+        QFileDialog::getOpenFileName(this, QStringLiteral("図面を開く"), QString(),
+                                     QStringLiteral("図面 (*.xml);;すべてのファイル (*)"));
+    if (!path.isEmpty())
+        openDrawing(path);
+}
+
+void WorkbenchWindow::openDrawing(const QString& path) {
+    QString error;
+    if (!m_session.openDrawing(path, &error))
+        QMessageBox::warning(this, QStringLiteral("図面を開く"),
+                             QStringLiteral("図面を開けませんでした。\n%1").arg(error));
+    showDrawingState();
+}
+
+void WorkbenchWindow::closeDrawing() {
+    m_session.closeDrawing();
+    showDrawingState();
+}
+
+void WorkbenchWindow::showDrawingState() {
+    const CMemoryDataBase* drawing = m_session.drawing();
+    m_drawingLabel->setText(
+        drawing ? QStringLiteral("図面: %1").arg(QString::fromStdWString(drawing->getTitle()))
+                : QStringLiteral("図面: (開いていません)"));
+}
+
+} // namespace kesto::workbench

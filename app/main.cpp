@@ -1,0 +1,110 @@
+#include "Screenshots.h"
+#include "Session.h"
+#include "WorkbenchWindow.h"
+
+#include "core/Application.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QMessageBox>
+#include <QStandardPaths>
+
+#include <cstdio>
+
+using namespace kesto;
+
+namespace {
+
+void printLine(const QString& text) {
+    std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
+}
+
+QString describe(const workbench::SettingsStore::Problem& p) {
+    QString text = QStringLiteral("設定ファイル %1 を読み込めませんでした (%2)。既定値を使います。")
+                       .arg(QDir::toNativeSeparators(p.file), p.reason);
+    if (!p.backup.isEmpty())
+        text += QStringLiteral("\n元のファイルは %1 に退避しました。")
+                    .arg(QDir::toNativeSeparators(p.backup));
+    else
+        text += QStringLiteral("\n元のファイルを退避できなかったため、この設定は保存されません。");
+    return text;
+}
+
+std::shared_ptr<core::CSystemConfig> setUpHost(const QString& settingsFolder) {
+    auto config = std::make_shared<core::CSystemConfig>();
+    config->setSettingFolder(settingsFolder.toStdWString());
+    core::Application* host = core::Application::getInstance();
+    host->setSystemConfig(config);
+    host->log().addSink(std::make_shared<core::StreamLogSink>(core::LogLevel::Warning));
+    host->placements().useFile(QDir(settingsFolder).filePath(QStringLiteral("placements.ini")));
+    host->setResourceFolder(QDir(QCoreApplication::applicationDirPath())
+                                .filePath(QStringLiteral("resources"))
+                                .toStdWString());
+    host->setUserDataFolder(
+        QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdWString());
+    return config;
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    QApplication app(argc, argv);
+    QApplication::setOrganizationName(QStringLiteral("kesto"));
+    QApplication::setApplicationName(QStringLiteral("kesto-settings"));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Settings workbench of the CAD dialogs"));
+    parser.addHelpOption();
+    const QCommandLineOption settingsOption(
+        QStringLiteral("settings"), QStringLiteral("Settings folder."), QStringLiteral("DIR"));
+    const QCommandLineOption drawingOption(
+        QStringLiteral("drawing"), QStringLiteral("Drawing to open."), QStringLiteral("FILE"));
+    const QCommandLineOption shotOption(QStringLiteral("screenshot"),
+                                        QStringLiteral("Render every dialog to PNG in DIR."),
+                                        QStringLiteral("DIR"));
+    parser.addOptions({settingsOption, drawingOption, shotOption});
+    parser.process(app);
+
+    const QString settingsFolder =
+        parser.isSet(settingsOption)
+            ? QDir(parser.value(settingsOption)).absolutePath()
+            : QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
+    if (!QDir().mkpath(settingsFolder)) {
+        printLine(QStringLiteral("設定フォルダ %1 を作成できません。").arg(settingsFolder));
+        return 2;
+    }
+    auto config = setUpHost(settingsFolder);
+    workbench::Session session(workbench::allTopics(), config,
+                               workbench::SettingsStore(settingsFolder));
+    QStringList notices;
+    for (const auto& problem : session.load())
+        notices << describe(problem);
+    if (parser.isSet(drawingOption)) {
+        QString error;
+        if (!session.openDrawing(parser.value(drawingOption), &error))
+            notices << QStringLiteral("図面を開けませんでした: %1").arg(error);
+    }
+    for (const QString& notice : notices)
+        printLine(notice);
+
+    if (parser.isSet(shotOption)) {
+        const QString dir = QDir(parser.value(shotOption)).absolutePath();
+        workbench::WorkbenchWindow window(session);
+        QString error;
+        QStringList files = workbench::renderTopicScreenshots(session, dir, &error);
+        if (workbench::renderWidget(window, QDir(dir).filePath(QStringLiteral("workbench.png"))))
+            files << QDir(dir).filePath(QStringLiteral("workbench.png"));
+        for (const QString& file : files)
+            printLine(file);
+        if (!error.isEmpty())
+            printLine(error);
+        return files.isEmpty() ? 1 : 0;
+    }
+
+    workbench::WorkbenchWindow window(session);
+    window.show();
+    if (!notices.isEmpty())
+        QMessageBox::warning(&window, window.windowTitle(), notices.join(u"\n\n"));
+    return app.exec();
+}

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "control/KsListModel.h"
+#include "observer/Subject.h"
+
+#include <QTableView>
+
+namespace kesto::ui::control {
+
+// The host's editable grid. Rows are held by a model, so large lists fill and scroll without
+// creating a widget per cell. Cell edits by the user are reported to observers as
+// LIST_EVENT_CELL_CHANGED after they are stored; changes made through the API are not.
+class CKsListCtrl : public QTableView, public kesto::Subject {
+    Q_OBJECT
+
+public:
+    explicit CKsListCtrl(QWidget* parent = nullptr);
+    ~CKsListCtrl() override;
+
+    CKsListModel* listModel() const { return m_model; }
+
+    // Columns
+    int addColumn(const QString& title, int width, EColumnType type = EColumnType::Text,
+                  Qt::Alignment alignment = Qt::AlignLeft, bool editable = true);
+    void setColumnItems(int column, const QStringList& items);
+    void setColumnBackground(int column, const QColor& color);
+    int getColumnCount() const { return m_model->columnCount(); }
+    // Widens (or narrows) a column to its header and the texts of up to 1,000 rows.
+    void fitColumnToContents(int column);
+
+    // Rows
+    int addRow(SListRow row);
+    int addRow(const QStringList& texts, std::uint64_t data = 0);
+    void insertRow(int at, SListRow row);
+    // Fast fill: one model update for all rows.
+    void addRows(std::vector<SListRow> rows);
+    void setRows(std::vector<SListRow> rows);
+    bool removeRow(int row);
+    void removeAllRows();
+    bool moveRow(int from, int to);
+    bool swapRows(int first, int second);
+    int getRowCount() const { return m_model->rowCount(); }
+    SListRow& getRow(int row) { return m_model->row(row); }
+    const SListRow& getRow(int row) const { return m_model->row(row); }
+    void updateRow(int row) { m_model->rowChanged(row); }
+
+    // Cells
+    QString getCellText(int row, int column) const;
+    void setCellText(int row, int column, const QString& text);
+    QRgb getCellColor(int row, int column) const;
+    void setCellColor(int row, int column, QRgb color);
+    void setCellEditable(int row, int column, bool editable);
+    bool isCellEditable(int row, int column) const;
+    // Stores a value as if the user had typed or chosen it, and reports it to observers.
+    bool commitCellText(int row, int column, const QString& text);
+    bool commitCellColor(int row, int column, QRgb color);
+    void setEditable(bool editable) { m_model->setEditable(editable); }
+
+    // Selection
+    void setMultiSelect(bool multi);
+    int getSelectedRow() const;
+    std::vector<int> getSelectedRows() const;
+    void selectRow(int row);
+    void setRowsSelected(const std::vector<int>& rows);
+    void clearSelection();
+
+    // Search
+    int findRow(int column, const QString& text, int from = 0) const;
+    int findRowByData(std::uint64_t data, int from = 0) const;
+
+signals:
+    void selectedRowChanged(int row);
+    void cellEdited(int row, int column);
+
+private:
+    void onUserEdit(const SListCellEvent& event);
+    void onSelectionChanged();
+    void editColorCell(const QModelIndex& index);
+    void keyPressEvent(QKeyEvent* event) override;
+
+    CKsListModel* m_model;
+};
+
+} // namespace kesto::ui::control

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <QStringList>
+
+#include <cstdint>
+#include <vector>
+
+namespace kesto::ui::control {
+
+enum class EColumnType {
+    Text,  // edited in place as text
+    Combo, // edited by choosing one of the column's items
+    Color, // shows a colour swatch; edited through the host's colour chooser
+};
+
+struct SListColumn {
+    QString title;
+    int width = 100;
+    EColumnType type = EColumnType::Text;
+    Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
+    bool editable = true;
+    QStringList items; // choices of a combo column
+    QColor background; // invalid: the view's own
+};
+
+struct SListCell {
+    QString text;
+    QRgb color = 0;       // swatch of a colour cell (0xRRGGBB)
+    bool editable = true; // a cell may be locked inside an editable column
+};
+
+struct SListRow {
+    std::vector<SListCell> cells;
+    std::uint64_t data = 0; // the owner's key for the row (an index, a pointer)
+
+    SListRow() = default;
+    explicit SListRow(const QStringList& texts, std::uint64_t rowData = 0);
+    const QString& text(int column) const;
+};
+
+// Events the list reports to its observers (kesto::Subject).
+enum EListEvent {
+    LIST_EVENT_CELL_CHANGED = 0,      // data: SListCellEvent*, after the cell was stored
+    LIST_EVENT_SELECTION_CHANGED = 1, // data: nullptr
+    LIST_EVENT_ROW_ACTIVATED = 2,     // data: SListCellEvent* of the double-clicked cell
+    LIST_EVENT_ROW_COMBO_CHANGED = 9, // data: SListRowTextEvent*, combo set by the owner's buttons
+};
+
+struct SListCellEvent {
+    int row = -1;
+    int column = -1;
+    QString text;
+    QRgb color = 0;
+};
+
+struct SListRowTextEvent {
+    int row = -1;
+    QString text;
+};
+
+} // namespace kesto::ui::control

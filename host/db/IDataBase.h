@@ -1,0 +1,38 @@
+#pragma once
+
+#include "types/KsObject.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+// The drawing database as the settings dialogs see it: elements listed by type ("SCALE",
+// "LWIDTH", "LAYER", ...). Elements stay owned by the database.
+class IDataBase {
+public:
+    virtual ~IDataBase() = default;
+
+    // Appends the elements of one type to out, in drawing order.
+    virtual void listElements(const std::wstring& type, std::vector<KsObject*>& out) const = 0;
+    virtual std::size_t countElements(const std::wstring& type) const = 0;
+
+    // Visits every element of the drawing, of every type.
+    virtual void forEachElement(const std::function<void(KsObject&)>& visit) const = 0;
+
+    // A display name for the drawing (file name or title).
+    virtual std::wstring getTitle() const = 0;
+
+    // Typed convenience over listElements.
+    template <class T>
+    std::vector<T*> elementsOf(const std::wstring& type) const {
+        std::vector<KsObject*> all;
+        listElements(type, all);
+        std::vector<T*> out;
+        out.reserve(all.size());
+        for (KsObject* object : all) {
+            if (auto* typed = dynamic_cast<T*>(object))
+                out.push_back(typed);
+        }
+        return out;
+    }
+};

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "types/KsObject.h"
+
+#include <QColor>
+
+#include <cstdint>
+#include <string>
+
+// A colour as the host stores it: an RGB value (0xRRGGBB), how it was chosen and its name.
+// The by-layer colour stands for "whatever the element's layer says".
+class KsColor : public KsObject {
+public:
+    enum EColorType { ByLayer = 0, System = 1, User = 2 };
+
+    KsColor() = default;
+    KsColor(std::uint32_t rgb, int colorType, std::wstring name = {});
+    static KsColor byLayer();
+
+    std::wstring getType() const override { return L"COLOR"; }
+
+    bool isByLayer() const { return m_colorType == ByLayer; }
+    std::uint32_t getRGB() const { return m_rgb; }
+    int getColorType() const { return m_colorType; }
+    const std::wstring& getName() const { return m_name; }
+    QColor toQColor() const;
+
+    void setRGB(std::uint32_t rgb) { m_rgb = rgb & 0xFFFFFFu; }
+    void setColorType(int type) { m_colorType = type; }
+    void setName(std::wstring name) { m_name = std::move(name); }
+
+    bool operator==(const KsColor& other) const;
+
+private:
+    std::uint32_t m_rgb = 0;
+    int m_colorType = System;
+    std::wstring m_name;
+};

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "KsSystemConfigDlgExport.h"
+#include "framework/Resources.h"
+
+namespace kesto::ui::config {
+
+// The library's own resource module (string table and dialog layouts), registered with the
+// host's resource chain when the library loads. Entry functions make it current while their
+// dialog runs.
+KSCONFIGDLG_EXPORT framework::ResourceHandle libraryResourceHandle();
+
+} // namespace kesto::ui::config

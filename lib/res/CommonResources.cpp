@@ -1,0 +1,20 @@
+#include "res/CommonResource.h"
+#include "res/ResourceTables.h"
+
+#include <iterator>
+
+namespace kesto::ui::config::res {
+
+namespace {
+const framework::StringEntry kStrings[] = {
+    {IDS_TAB_SYSTEM, "システム"},
+    {IDS_TAB_DRAWING, "図面内"},
+    {IDS_CAPTION_INPUT_ERROR, "入力値エラー"},
+};
+} // namespace
+
+bool registerCommonResources(framework::ResourceModule& module) {
+    return module.addStrings(kStrings, std::size(kStrings));
+}
+
+} // namespace kesto::ui::config::res

@@ -10,18 +10,20 @@ namespace kesto::workbench {
 
 namespace {
 
-bool fail(QString* error, const QString& text) {
+bool fail(QString* error, const QString& text)
+{
     if (error)
         *error = text;
     return false;
 }
 
-bool readScale(const QDomElement& e, CMemoryDataBase& db, QString* error) {
+bool readScale(const QDomElement& e, CMemoryDataBase& db, QString* error)
+{
     double numerator = 0;
     double denominator = 0;
-    if (!utility::xml::readDoubleAttribute(e, QStringLiteral("numerator"), numerator) ||
-        !utility::xml::readDoubleAttribute(e, QStringLiteral("denominator"), denominator) ||
-        numerator <= 0 || denominator <= 0)
+    if (!utility::xml::readDoubleAttribute(e, QStringLiteral("numerator"), numerator)
+        || !utility::xml::readDoubleAttribute(e, QStringLiteral("denominator"), denominator)
+        || numerator <= 0 || denominator <= 0)
         return fail(error, QStringLiteral("line %1: a scale needs numerator and denominator "
                                           "greater than zero")
                                .arg(e.lineNumber()));
@@ -31,7 +33,8 @@ bool readScale(const QDomElement& e, CMemoryDataBase& db, QString* error) {
     return true;
 }
 
-bool readLayer(const QDomElement& e, CMemoryDataBase& db, QString* error) {
+bool readLayer(const QDomElement& e, CMemoryDataBase& db, QString* error)
+{
     const QString name = e.attribute(QStringLiteral("name"));
     if (name.isEmpty())
         return fail(error, QStringLiteral("line %1: a layer needs a name").arg(e.lineNumber()));
@@ -49,7 +52,8 @@ bool readLayer(const QDomElement& e, CMemoryDataBase& db, QString* error) {
 
 } // namespace
 
-std::unique_ptr<CMemoryDataBase> readXmlDrawing(const QString& path, QString* error) {
+std::unique_ptr<CMemoryDataBase> readXmlDrawing(const QString& path, QString* error)
+{
     QDomDocument doc;
     QString reason;
     if (!utility::xml::load(doc, path.toStdWString(), &reason)) {
@@ -77,7 +81,8 @@ std::unique_ptr<CMemoryDataBase> readXmlDrawing(const QString& path, QString* er
     return db;
 }
 
-std::unique_ptr<CMemoryDataBase> openDrawing(const QString& path, QString* error) {
+std::unique_ptr<CMemoryDataBase> openDrawing(const QString& path, QString* error)
+{
     const QFileInfo info(path);
     if (!info.isFile()) {
         fail(error, QStringLiteral("%1: no such file").arg(path));

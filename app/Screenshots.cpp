@@ -16,7 +16,8 @@ using ui::framework::CKsDialog;
 using ui::framework::ModalHook;
 
 // The window with a plain title bar of its own, since offscreen windows have no frame.
-bool renderWidget(QWidget& widget, const QString& file) {
+bool renderWidget(QWidget& widget, const QString& file)
+{
     QCoreApplication::processEvents();
     const QPixmap client = widget.grab();
     const qreal ratio = client.devicePixelRatio();
@@ -41,7 +42,8 @@ bool renderWidget(QWidget& widget, const QString& file) {
     return framed.save(file, "PNG");
 }
 
-QStringList renderTopicScreenshots(Session& session, const QString& dir, QString* error) {
+QStringList renderTopicScreenshots(Session& session, const QString& dir, QString* error)
+{
     QStringList written;
     if (!QDir().mkpath(dir)) {
         *error = QStringLiteral("cannot create %1").arg(dir);

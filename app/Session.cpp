@@ -12,17 +12,21 @@ Session::Session(std::vector<Topic> topics, std::shared_ptr<core::CSystemConfig>
                  SettingsStore store)
     : m_topics(std::move(topics))
     , m_config(std::move(config))
-    , m_store(std::move(store)) {}
+    , m_store(std::move(store))
+{}
 
-Session::~Session() {
+Session::~Session()
+{
     closeDrawing();
 }
 
-std::vector<SettingsStore::Problem> Session::load() {
+std::vector<SettingsStore::Problem> Session::load()
+{
     return m_store.loadAll(m_topics, *m_config);
 }
 
-const Topic* Session::findTopic(const QString& id) const {
+const Topic* Session::findTopic(const QString& id) const
+{
     for (const Topic& topic : m_topics) {
         if (topic.id == id)
             return &topic;
@@ -30,7 +34,8 @@ const Topic* Session::findTopic(const QString& id) const {
     return nullptr;
 }
 
-ui::setting::CSettingBase* Session::currentSetting(const Topic& topic) const {
+ui::setting::CSettingBase* Session::currentSetting(const Topic& topic) const
+{
     const std::unique_ptr<ui::setting::CSettingBase> probe = topic.makeDefault();
     for (const auto& setting : m_config->settings()) {
         if (typeid(*setting) == typeid(*probe))
@@ -39,7 +44,8 @@ ui::setting::CSettingBase* Session::currentSetting(const Topic& topic) const {
     return nullptr;
 }
 
-bool Session::openTopic(const Topic& topic, bool* changed, QString* error) {
+bool Session::openTopic(const Topic& topic, bool* changed, QString* error)
+{
     *changed = false;
     ui::setting::CSettingBase* current = currentSetting(topic);
     if (!current) {
@@ -51,7 +57,8 @@ bool Session::openTopic(const Topic& topic, bool* changed, QString* error) {
     return !*changed || m_store.save(*current, error);
 }
 
-bool Session::openDrawing(const QString& path, QString* error) {
+bool Session::openDrawing(const QString& path, QString* error)
+{
     std::unique_ptr<CMemoryDataBase> db = workbench::openDrawing(path, error);
     if (!db)
         return false;
@@ -60,7 +67,8 @@ bool Session::openDrawing(const QString& path, QString* error) {
     return true;
 }
 
-void Session::closeDrawing() {
+void Session::closeDrawing()
+{
     m_config->setCurrentDataBase(nullptr);
     m_drawing.reset();
 }

@@ -10,14 +10,17 @@
 namespace kesto::workbench {
 
 SettingsStore::SettingsStore(QString folder)
-    : m_folder(std::move(folder)) {}
+    : m_folder(std::move(folder))
+{}
 
-QString SettingsStore::fileOf(const ui::setting::CSettingBase& setting) const {
+QString SettingsStore::fileOf(const ui::setting::CSettingBase& setting) const
+{
     return QDir(m_folder).filePath(setting.xmlRootName() + QStringLiteral(".xml"));
 }
 
 std::vector<SettingsStore::Problem> SettingsStore::loadAll(const std::vector<Topic>& topics,
-                                                           core::CSystemConfig& config) {
+                                                           core::CSystemConfig& config)
+{
     std::vector<Problem> problems;
     for (const Topic& topic : topics) {
         std::unique_ptr<ui::setting::CSettingBase> setting = topic.makeDefault();
@@ -34,7 +37,8 @@ std::vector<SettingsStore::Problem> SettingsStore::loadAll(const std::vector<Top
     return problems;
 }
 
-SettingsStore::Problem SettingsStore::setAside(const QString& file, const QString& reason) {
+SettingsStore::Problem SettingsStore::setAside(const QString& file, const QString& reason)
+{
     const QString stamp = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
     const QString backup = file + QStringLiteral(".broken-") + stamp;
     if (QFile::rename(file, backup))
@@ -43,7 +47,8 @@ SettingsStore::Problem SettingsStore::setAside(const QString& file, const QStrin
     return {file, reason, QString()};
 }
 
-bool SettingsStore::save(const ui::setting::CSettingBase& setting, QString* error) {
+bool SettingsStore::save(const ui::setting::CSettingBase& setting, QString* error)
+{
     const QString file = fileOf(setting);
     if (m_blocked.contains(file)) {
         if (error)

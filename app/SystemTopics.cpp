@@ -10,13 +10,15 @@ namespace kesto::workbench {
 namespace {
 constexpr int kTableTab = 7071;
 
-void showDrawingTab(ui::framework::CKsDialog& dialog) {
+void showDrawingTab(ui::framework::CKsDialog& dialog)
+{
     if (auto* tab = dialog.dlgItem<QTabBar>(kTableTab); tab && tab->count() > 1)
         tab->setCurrentIndex(1);
 }
 } // namespace
 
-void addSystemTopics(std::vector<Topic>& topics) {
+void addSystemTopics(std::vector<Topic>& topics)
+{
     using ui::setting::CSystemScaleSetting;
     const QString group = QStringLiteral("システム設定");
     topics.push_back(makeSettingTopic<CSystemScaleSetting>(

@@ -38,7 +38,8 @@ struct Topic {
 // Wraps a typed entry function taking (setting, reset value).
 template <class S>
 Topic makeSettingTopic(QString group, QString title, QString id, std::function<S()> defaults,
-                       std::function<bool(S&, const S&)> entry, std::vector<Shot> shots = {}) {
+                       std::function<bool(S&, const S&)> entry, std::vector<Shot> shots = {})
+{
     Topic topic;
     topic.group = std::move(group);
     topic.title = std::move(title);

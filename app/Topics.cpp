@@ -2,7 +2,8 @@
 
 namespace kesto::workbench {
 
-std::vector<Topic> allTopics() {
+std::vector<Topic> allTopics()
+{
     std::vector<Topic> topics;
     addSystemTopics(topics);
     return topics;

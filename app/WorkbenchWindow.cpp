@@ -21,7 +21,8 @@ constexpr int kTopicIdRole = Qt::UserRole + 1;
 
 WorkbenchWindow::WorkbenchWindow(Session& session, QWidget* parent)
     : QMainWindow(parent)
-    , m_session(session) {
+    , m_session(session)
+{
     setWindowTitle(QStringLiteral("設定ワークベンチ - kesto-settings"));
     auto* central = new QWidget(this);
     auto* layout = new QVBoxLayout(central);
@@ -41,7 +42,8 @@ WorkbenchWindow::WorkbenchWindow(Session& session, QWidget* parent)
     resize(480, 420);
 }
 
-void WorkbenchWindow::buildMenus() {
+void WorkbenchWindow::buildMenus()
+{
     QMenu* file = menuBar()->addMenu(QStringLiteral("ファイル(&F)"));
     file->addAction(QStringLiteral("図面を開く(&O)..."), QKeySequence::Open, this,
                     &WorkbenchWindow::chooseDrawing);
@@ -50,7 +52,8 @@ void WorkbenchWindow::buildMenus() {
     file->addAction(QStringLiteral("終了(&X)"), QKeySequence::Quit, this, &QWidget::close);
 }
 
-void WorkbenchWindow::buildTopicTree() {
+void WorkbenchWindow::buildTopicTree()
+{
     m_tree->setHeaderHidden(true);
     m_tree->setRootIsDecorated(true);
     QTreeWidgetItem* group = nullptr;
@@ -67,7 +70,8 @@ void WorkbenchWindow::buildTopicTree() {
         m_tree->setCurrentItem(m_tree->topLevelItem(0)->child(0));
 }
 
-void WorkbenchWindow::openSelectedTopic() {
+void WorkbenchWindow::openSelectedTopic()
+{
     const QTreeWidgetItem* item = m_tree->currentItem();
     if (!item)
         return;
@@ -75,7 +79,8 @@ void WorkbenchWindow::openSelectedTopic() {
         openTopic(*topic);
 }
 
-void WorkbenchWindow::openTopic(const Topic& topic) {
+void WorkbenchWindow::openTopic(const Topic& topic)
+{
     bool changed = false;
     QString error;
     if (!m_session.openTopic(topic, &changed, &error)) {
@@ -89,7 +94,8 @@ void WorkbenchWindow::openTopic(const Topic& topic) {
                              5000);
 }
 
-void WorkbenchWindow::chooseDrawing() {
+void WorkbenchWindow::chooseDrawing()
+{
     const QString path =
         QFileDialog::getOpenFileName(this, QStringLiteral("図面を開く"), QString(),
                                      QStringLiteral("図面 (*.xml);;すべてのファイル (*)"));
@@ -97,7 +103,8 @@ void WorkbenchWindow::chooseDrawing() {
         openDrawing(path);
 }
 
-void WorkbenchWindow::openDrawing(const QString& path) {
+void WorkbenchWindow::openDrawing(const QString& path)
+{
     QString error;
     if (!m_session.openDrawing(path, &error))
         QMessageBox::warning(this, QStringLiteral("図面を開く"),
@@ -105,12 +112,14 @@ void WorkbenchWindow::openDrawing(const QString& path) {
     showDrawingState();
 }
 
-void WorkbenchWindow::closeDrawing() {
+void WorkbenchWindow::closeDrawing()
+{
     m_session.closeDrawing();
     showDrawingState();
 }
 
-void WorkbenchWindow::showDrawingState() {
+void WorkbenchWindow::showDrawingState()
+{
     const CMemoryDataBase* drawing = m_session.drawing();
     m_drawingLabel->setText(
         drawing ? QStringLiteral("図面: %1").arg(QString::fromStdWString(drawing->getTitle()))

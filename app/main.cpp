@@ -16,11 +16,13 @@ using namespace kesto;
 
 namespace {
 
-void printLine(const QString& text) {
+void printLine(const QString& text)
+{
     std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
 }
 
-QString describe(const workbench::SettingsStore::Problem& p) {
+QString describe(const workbench::SettingsStore::Problem& p)
+{
     QString text = QStringLiteral("設定ファイル %1 を読み込めませんでした (%2)。既定値を使います。")
                        .arg(QDir::toNativeSeparators(p.file), p.reason);
     if (!p.backup.isEmpty())
@@ -31,7 +33,8 @@ QString describe(const workbench::SettingsStore::Problem& p) {
     return text;
 }
 
-std::shared_ptr<core::CSystemConfig> setUpHost(const QString& settingsFolder) {
+std::shared_ptr<core::CSystemConfig> setUpHost(const QString& settingsFolder)
+{
     auto config = std::make_shared<core::CSystemConfig>();
     config->setSettingFolder(settingsFolder.toStdWString());
     core::Application* host = core::Application::getInstance();
@@ -48,7 +51,8 @@ std::shared_ptr<core::CSystemConfig> setUpHost(const QString& settingsFolder) {
 
 } // namespace
 
-int main(int argc, char* argv[]) {
+int main(int argc, char* argv[])
+{
     QApplication app(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("kesto"));
     QApplication::setApplicationName(QStringLiteral("kesto-settings"));

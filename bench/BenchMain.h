@@ -6,7 +6,8 @@
 
 // main() for benchmarks that need widgets: a headless QApplication around Google Benchmark.
 #define KS_BENCHMARK_MAIN()                                                                        \
-    int main(int argc, char** argv) {                                                              \
+    int main(int argc, char** argv)                                                                \
+    {                                                                                              \
         if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))                                        \
             qputenv("QT_QPA_PLATFORM", "offscreen");                                               \
         QApplication app(argc, argv);                                                              \

@@ -16,7 +16,8 @@ using ui::framework::ModalHook;
 
 namespace {
 
-ui::setting::CSystemScaleSetting makeScales(int count) {
+ui::setting::CSystemScaleSetting makeScales(int count)
+{
     std::vector<ui::setting::SSystemScale> scales;
     scales.reserve(static_cast<std::size_t>(count));
     for (int i = 1; i <= count; ++i)
@@ -27,7 +28,8 @@ ui::setting::CSystemScaleSetting makeScales(int count) {
 }
 
 struct Host {
-    explicit Host(int drawingScales) {
+    explicit Host(int drawingScales)
+    {
         for (int i = 1; i <= drawingScales; ++i)
             drawing.add<KsScale>(1.0, static_cast<double>(i) + 0.5);
         config->setCurrentDataBase(&drawing);
@@ -38,7 +40,8 @@ struct Host {
     std::shared_ptr<core::CSystemConfig> config = std::make_shared<core::CSystemConfig>();
 };
 
-void BM_OpenScaleDialog(benchmark::State& state) {
+void BM_OpenScaleDialog(benchmark::State& state)
+{
     const int count = static_cast<int>(state.range(0));
     Host host(count);
     ui::setting::CSystemScaleSetting setting = makeScales(count);
@@ -52,7 +55,8 @@ void BM_OpenScaleDialog(benchmark::State& state) {
 BENCHMARK(BM_OpenScaleDialog)->Arg(100)->Arg(10000)->Unit(benchmark::kMillisecond);
 
 // Opening, then showing the drawing's tab and going back.
-void BM_OpenScaleDialogBothTabs(benchmark::State& state) {
+void BM_OpenScaleDialogBothTabs(benchmark::State& state)
+{
     const int count = static_cast<int>(state.range(0));
     Host host(count);
     ui::setting::CSystemScaleSetting setting = makeScales(count);

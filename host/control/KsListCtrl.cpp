@@ -12,13 +12,14 @@ namespace kesto::ui::control {
 
 CKsListCtrl::CKsListCtrl(QWidget* parent)
     : QTableView(parent)
-    , m_model(new CKsListModel(this)) {
+    , m_model(new CKsListModel(this))
+{
     setModel(m_model);
     setItemDelegate(new CKsListDelegate(m_model, this));
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::SingleSelection);
-    setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked |
-                    QAbstractItemView::EditKeyPressed);
+    setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked
+                    | QAbstractItemView::EditKeyPressed);
     setWordWrap(false);
     setShowGrid(true);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -45,7 +46,8 @@ CKsListCtrl::CKsListCtrl(QWidget* parent)
 CKsListCtrl::~CKsListCtrl() = default;
 
 int CKsListCtrl::addColumn(const QString& title, int width, EColumnType type,
-                           Qt::Alignment alignment, bool editable) {
+                           Qt::Alignment alignment, bool editable)
+{
     SListColumn column;
     column.title = title;
     column.width = width;
@@ -57,54 +59,66 @@ int CKsListCtrl::addColumn(const QString& title, int width, EColumnType type,
     return index;
 }
 
-void CKsListCtrl::setColumnItems(int column, const QStringList& items) {
+void CKsListCtrl::setColumnItems(int column, const QStringList& items)
+{
     if (column >= 0 && column < getColumnCount())
         m_model->column(column).items = items;
 }
 
-void CKsListCtrl::setColumnBackground(int column, const QColor& color) {
+void CKsListCtrl::setColumnBackground(int column, const QColor& color)
+{
     if (column >= 0 && column < getColumnCount())
         m_model->column(column).background = color;
 }
 
-void CKsListCtrl::fitColumnToContents(int column) {
+void CKsListCtrl::fitColumnToContents(int column)
+{
     horizontalHeader()->setResizeContentsPrecision(1000);
     resizeColumnToContents(column);
 }
 
-int CKsListCtrl::addRow(SListRow row) {
+int CKsListCtrl::addRow(SListRow row)
+{
     return m_model->addRow(std::move(row));
 }
 
-int CKsListCtrl::addRow(const QStringList& texts, std::uint64_t data) {
+int CKsListCtrl::addRow(const QStringList& texts, std::uint64_t data)
+{
     return m_model->addRow(SListRow(texts, data));
 }
 
-void CKsListCtrl::insertRow(int at, SListRow row) {
+void CKsListCtrl::insertRow(int at, SListRow row)
+{
     m_model->insertRow(at, std::move(row));
 }
 
-void CKsListCtrl::addRows(std::vector<SListRow> rows) {
+void CKsListCtrl::addRows(std::vector<SListRow> rows)
+{
     m_model->appendRows(std::move(rows));
 }
 
-void CKsListCtrl::setRows(std::vector<SListRow> rows) {
+void CKsListCtrl::setRows(std::vector<SListRow> rows)
+{
     m_model->setRows(std::move(rows));
 }
 
-bool CKsListCtrl::removeRow(int row) {
+bool CKsListCtrl::removeRow(int row)
+{
     return m_model->removeRowAt(row);
 }
 
-void CKsListCtrl::removeAllRows() {
+void CKsListCtrl::removeAllRows()
+{
     m_model->removeAllRows();
 }
 
-bool CKsListCtrl::moveRow(int from, int to) {
+bool CKsListCtrl::moveRow(int from, int to)
+{
     return m_model->moveRowTo(from, to);
 }
 
-bool CKsListCtrl::swapRows(int first, int second) {
+bool CKsListCtrl::swapRows(int first, int second)
+{
     if (!m_model->isValidRow(first) || !m_model->isValidRow(second) || first == second)
         return false;
     const int low = std::min(first, second);
@@ -115,54 +129,65 @@ bool CKsListCtrl::swapRows(int first, int second) {
     return true;
 }
 
-QString CKsListCtrl::getCellText(int row, int column) const {
+QString CKsListCtrl::getCellText(int row, int column) const
+{
     if (!m_model->isValidRow(row))
         return {};
     return m_model->row(row).text(column);
 }
 
-void CKsListCtrl::setCellText(int row, int column, const QString& text) {
+void CKsListCtrl::setCellText(int row, int column, const QString& text)
+{
     m_model->setCellText(row, column, text);
 }
 
-QRgb CKsListCtrl::getCellColor(int row, int column) const {
+QRgb CKsListCtrl::getCellColor(int row, int column) const
+{
     if (!m_model->isValidRow(row) || column < 0 || column >= getColumnCount())
         return 0;
     return m_model->row(row).cells[static_cast<std::size_t>(column)].color;
 }
 
-void CKsListCtrl::setCellColor(int row, int column, QRgb color) {
+void CKsListCtrl::setCellColor(int row, int column, QRgb color)
+{
     m_model->setCellColor(row, column, color);
 }
 
-void CKsListCtrl::setCellEditable(int row, int column, bool editable) {
+void CKsListCtrl::setCellEditable(int row, int column, bool editable)
+{
     m_model->setCellEditable(row, column, editable);
 }
 
-bool CKsListCtrl::isCellEditable(int row, int column) const {
+bool CKsListCtrl::isCellEditable(int row, int column) const
+{
     return m_model->isCellEditable(row, column);
 }
 
-bool CKsListCtrl::commitCellText(int row, int column, const QString& text) {
+bool CKsListCtrl::commitCellText(int row, int column, const QString& text)
+{
     return m_model->setData(m_model->index(row, column), text, Qt::EditRole);
 }
 
-bool CKsListCtrl::commitCellColor(int row, int column, QRgb color) {
+bool CKsListCtrl::commitCellColor(int row, int column, QRgb color)
+{
     return m_model->setData(m_model->index(row, column), QColor::fromRgb(color),
                             Qt::DecorationRole);
 }
 
-void CKsListCtrl::setMultiSelect(bool multi) {
+void CKsListCtrl::setMultiSelect(bool multi)
+{
     setSelectionMode(multi ? QAbstractItemView::ExtendedSelection
                            : QAbstractItemView::SingleSelection);
 }
 
-int CKsListCtrl::getSelectedRow() const {
+int CKsListCtrl::getSelectedRow() const
+{
     const std::vector<int> rows = getSelectedRows();
     return rows.empty() ? -1 : rows.front();
 }
 
-std::vector<int> CKsListCtrl::getSelectedRows() const {
+std::vector<int> CKsListCtrl::getSelectedRows() const
+{
     std::vector<int> rows;
     const QItemSelection selection = selectionModel()->selection();
     for (const QItemSelectionRange& range : selection) {
@@ -174,18 +199,20 @@ std::vector<int> CKsListCtrl::getSelectedRows() const {
     return rows;
 }
 
-void CKsListCtrl::selectRow(int row) {
+void CKsListCtrl::selectRow(int row)
+{
     if (!m_model->isValidRow(row)) {
         clearSelection();
         return;
     }
     const QModelIndex index = m_model->index(row, 0);
-    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect |
-                                                 QItemSelectionModel::Rows);
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect
+                                                 | QItemSelectionModel::Rows);
     scrollTo(index);
 }
 
-void CKsListCtrl::setRowsSelected(const std::vector<int>& rows) {
+void CKsListCtrl::setRowsSelected(const std::vector<int>& rows)
+{
     QItemSelection selection;
     for (int r : rows) {
         if (m_model->isValidRow(r))
@@ -194,31 +221,37 @@ void CKsListCtrl::setRowsSelected(const std::vector<int>& rows) {
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
 }
 
-void CKsListCtrl::clearSelection() {
+void CKsListCtrl::clearSelection()
+{
     selectionModel()->clearSelection();
     selectionModel()->setCurrentIndex({}, QItemSelectionModel::NoUpdate);
 }
 
-int CKsListCtrl::findRow(int column, const QString& text, int from) const {
+int CKsListCtrl::findRow(int column, const QString& text, int from) const
+{
     return m_model->findRow(column, text, from);
 }
 
-int CKsListCtrl::findRowByData(std::uint64_t data, int from) const {
+int CKsListCtrl::findRowByData(std::uint64_t data, int from) const
+{
     return m_model->findRowByData(data, from);
 }
 
-void CKsListCtrl::onUserEdit(const SListCellEvent& event) {
+void CKsListCtrl::onUserEdit(const SListCellEvent& event)
+{
     SListCellEvent copy = event;
     notify(LIST_EVENT_CELL_CHANGED, &copy);
     emit cellEdited(event.row, event.column);
 }
 
-void CKsListCtrl::onSelectionChanged() {
+void CKsListCtrl::onSelectionChanged()
+{
     notify(LIST_EVENT_SELECTION_CHANGED, nullptr);
     emit selectedRowChanged(getSelectedRow());
 }
 
-void CKsListCtrl::editColorCell(const QModelIndex& index) {
+void CKsListCtrl::editColorCell(const QModelIndex& index)
+{
     if (!m_model->isCellEditable(index.row(), index.column()))
         return;
     const QColor initial = QColor::fromRgb(getCellColor(index.row(), index.column()));
@@ -227,12 +260,13 @@ void CKsListCtrl::editColorCell(const QModelIndex& index) {
 }
 
 // Enter or F2 on a colour cell opens the colour chooser; text and combo cells edit in place.
-void CKsListCtrl::keyPressEvent(QKeyEvent* event) {
+void CKsListCtrl::keyPressEvent(QKeyEvent* event)
+{
     const QModelIndex index = currentIndex();
-    const bool opens = event->key() == Qt::Key_F2 || event->key() == Qt::Key_Return ||
-                       event->key() == Qt::Key_Enter;
-    if (opens && index.isValid() && state() != EditingState &&
-        m_model->column(index.column()).type == EColumnType::Color) {
+    const bool opens = event->key() == Qt::Key_F2 || event->key() == Qt::Key_Return
+                       || event->key() == Qt::Key_Enter;
+    if (opens && index.isValid() && state() != EditingState
+        && m_model->column(index.column()).type == EColumnType::Color) {
         editColorCell(index);
         return;
     }

@@ -10,10 +10,12 @@ namespace kesto::ui::control {
 
 CKsListDelegate::CKsListDelegate(const CKsListModel* model, QObject* parent)
     : QStyledItemDelegate(parent)
-    , m_model(model) {}
+    , m_model(model)
+{}
 
 QWidget* CKsListDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
-                                       const QModelIndex& index) const {
+                                       const QModelIndex& index) const
+{
     const SListColumn& column = m_model->column(index.column());
     if (column.type != EColumnType::Combo)
         return QStyledItemDelegate::createEditor(parent, option, index);
@@ -31,7 +33,8 @@ QWidget* CKsListDelegate::createEditor(QWidget* parent, const QStyleOptionViewIt
     return box;
 }
 
-void CKsListDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
+void CKsListDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
+{
     if (auto* box = qobject_cast<QComboBox*>(editor)) {
         box->setCurrentIndex(box->findText(index.data(Qt::EditRole).toString()));
         return;
@@ -40,7 +43,8 @@ void CKsListDelegate::setEditorData(QWidget* editor, const QModelIndex& index) c
 }
 
 void CKsListDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
-                                   const QModelIndex& index) const {
+                                   const QModelIndex& index) const
+{
     if (auto* box = qobject_cast<QComboBox*>(editor)) {
         if (box->currentIndex() >= 0)
             model->setData(index, box->currentText(), Qt::EditRole);
@@ -50,7 +54,8 @@ void CKsListDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
 }
 
 void CKsListDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
-                            const QModelIndex& index) const {
+                            const QModelIndex& index) const
+{
     if (m_model->column(index.column()).type != EColumnType::Color) {
         QStyledItemDelegate::paint(painter, option, index);
         return;

@@ -5,17 +5,21 @@
 namespace kesto::ui::control {
 
 CKsListModel::CKsListModel(QObject* parent)
-    : QAbstractTableModel(parent) {}
+    : QAbstractTableModel(parent)
+{}
 
-int CKsListModel::rowCount(const QModelIndex& parent) const {
+int CKsListModel::rowCount(const QModelIndex& parent) const
+{
     return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
 }
 
-int CKsListModel::columnCount(const QModelIndex& parent) const {
+int CKsListModel::columnCount(const QModelIndex& parent) const
+{
     return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
 }
 
-QVariant CKsListModel::data(const QModelIndex& index, int role) const {
+QVariant CKsListModel::data(const QModelIndex& index, int role) const
+{
     const SListCell* cell = cellAt(index.row(), index.column());
     if (!cell)
         return {};
@@ -37,7 +41,8 @@ QVariant CKsListModel::data(const QModelIndex& index, int role) const {
     }
 }
 
-QVariant CKsListModel::headerData(int section, Qt::Orientation orientation, int role) const {
+QVariant CKsListModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
     if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
         return {};
     if (role == Qt::DisplayRole)
@@ -47,17 +52,19 @@ QVariant CKsListModel::headerData(int section, Qt::Orientation orientation, int 
     return {};
 }
 
-Qt::ItemFlags CKsListModel::flags(const QModelIndex& index) const {
+Qt::ItemFlags CKsListModel::flags(const QModelIndex& index) const
+{
     if (!index.isValid())
         return Qt::NoItemFlags;
     Qt::ItemFlags result = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
-    if (isCellEditable(index.row(), index.column()) &&
-        column(index.column()).type != EColumnType::Color)
+    if (isCellEditable(index.row(), index.column())
+        && column(index.column()).type != EColumnType::Color)
         result |= Qt::ItemIsEditable;
     return result;
 }
 
-bool CKsListModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+bool CKsListModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
     if (!isCellEditable(index.row(), index.column()))
         return false;
     SListCell* cell = cellAt(index.row(), index.column());
@@ -81,7 +88,8 @@ bool CKsListModel::setData(const QModelIndex& index, const QVariant& value, int 
     return true;
 }
 
-int CKsListModel::addColumn(const SListColumn& col) {
+int CKsListModel::addColumn(const SListColumn& col)
+{
     const int at = columnCount();
     beginInsertColumns({}, at, at);
     m_columns.push_back(col);
@@ -91,21 +99,25 @@ int CKsListModel::addColumn(const SListColumn& col) {
     return at;
 }
 
-const SListColumn& CKsListModel::column(int index) const {
+const SListColumn& CKsListModel::column(int index) const
+{
     return m_columns[static_cast<std::size_t>(index)];
 }
 
-SListColumn& CKsListModel::column(int index) {
+SListColumn& CKsListModel::column(int index)
+{
     return m_columns[static_cast<std::size_t>(index)];
 }
 
-int CKsListModel::addRow(SListRow r) {
+int CKsListModel::addRow(SListRow r)
+{
     const int at = rowCount();
     insertRow(at, std::move(r));
     return at;
 }
 
-void CKsListModel::insertRow(int at, SListRow r) {
+void CKsListModel::insertRow(int at, SListRow r)
+{
     at = std::clamp(at, 0, rowCount());
     normalize(r);
     beginInsertRows({}, at, at);
@@ -113,7 +125,8 @@ void CKsListModel::insertRow(int at, SListRow r) {
     endInsertRows();
 }
 
-void CKsListModel::appendRows(std::vector<SListRow> rows) {
+void CKsListModel::appendRows(std::vector<SListRow> rows)
+{
     if (rows.empty())
         return;
     for (SListRow& r : rows)
@@ -125,7 +138,8 @@ void CKsListModel::appendRows(std::vector<SListRow> rows) {
     endInsertRows();
 }
 
-void CKsListModel::setRows(std::vector<SListRow> rows) {
+void CKsListModel::setRows(std::vector<SListRow> rows)
+{
     for (SListRow& r : rows)
         normalize(r);
     beginResetModel();
@@ -133,7 +147,8 @@ void CKsListModel::setRows(std::vector<SListRow> rows) {
     endResetModel();
 }
 
-bool CKsListModel::removeRowAt(int r) {
+bool CKsListModel::removeRowAt(int r)
+{
     if (!isValidRow(r))
         return false;
     beginRemoveRows({}, r, r);
@@ -142,13 +157,15 @@ bool CKsListModel::removeRowAt(int r) {
     return true;
 }
 
-void CKsListModel::removeAllRows() {
+void CKsListModel::removeAllRows()
+{
     beginResetModel();
     m_rows.clear();
     endResetModel();
 }
 
-bool CKsListModel::moveRowTo(int from, int to) {
+bool CKsListModel::moveRowTo(int from, int to)
+{
     if (!isValidRow(from) || !isValidRow(to) || from == to)
         return false;
     // Qt's destination is the row before which the moved row lands.
@@ -161,38 +178,44 @@ bool CKsListModel::moveRowTo(int from, int to) {
     return true;
 }
 
-void CKsListModel::rowChanged(int r) {
+void CKsListModel::rowChanged(int r)
+{
     if (!isValidRow(r))
         return;
     normalize(row(r));
     emit dataChanged(index(r, 0), index(r, columnCount() - 1));
 }
 
-void CKsListModel::setCellText(int r, int c, const QString& text) {
+void CKsListModel::setCellText(int r, int c, const QString& text)
+{
     if (SListCell* cell = cellAt(r, c)) {
         cell->text = text;
         emit dataChanged(index(r, c), index(r, c));
     }
 }
 
-void CKsListModel::setCellColor(int r, int c, QRgb color) {
+void CKsListModel::setCellColor(int r, int c, QRgb color)
+{
     if (SListCell* cell = cellAt(r, c)) {
         cell->color = color & 0xFFFFFFu;
         emit dataChanged(index(r, c), index(r, c));
     }
 }
 
-void CKsListModel::setCellEditable(int r, int c, bool editable) {
+void CKsListModel::setCellEditable(int r, int c, bool editable)
+{
     if (SListCell* cell = cellAt(r, c))
         cell->editable = editable;
 }
 
-bool CKsListModel::isCellEditable(int r, int c) const {
+bool CKsListModel::isCellEditable(int r, int c) const
+{
     const SListCell* cell = cellAt(r, c);
     return m_editable && cell && cell->editable && column(c).editable;
 }
 
-int CKsListModel::findRow(int c, const QString& text, int from) const {
+int CKsListModel::findRow(int c, const QString& text, int from) const
+{
     if (c < 0 || c >= columnCount())
         return -1;
     for (int r = std::max(from, 0); r < rowCount(); ++r) {
@@ -202,7 +225,8 @@ int CKsListModel::findRow(int c, const QString& text, int from) const {
     return -1;
 }
 
-int CKsListModel::findRowByData(std::uint64_t value, int from) const {
+int CKsListModel::findRowByData(std::uint64_t value, int from) const
+{
     for (int r = std::max(from, 0); r < rowCount(); ++r) {
         if (row(r).data == value)
             return r;
@@ -210,18 +234,21 @@ int CKsListModel::findRowByData(std::uint64_t value, int from) const {
     return -1;
 }
 
-void CKsListModel::normalize(SListRow& r) const {
+void CKsListModel::normalize(SListRow& r) const
+{
     if (r.cells.size() < m_columns.size())
         r.cells.resize(m_columns.size());
 }
 
-SListCell* CKsListModel::cellAt(int r, int c) {
+SListCell* CKsListModel::cellAt(int r, int c)
+{
     if (!isValidRow(r) || c < 0 || c >= columnCount())
         return nullptr;
     return &row(r).cells[static_cast<std::size_t>(c)];
 }
 
-const SListCell* CKsListModel::cellAt(int r, int c) const {
+const SListCell* CKsListModel::cellAt(int r, int c) const
+{
     if (!isValidRow(r) || c < 0 || c >= columnCount())
         return nullptr;
     return &row(r).cells[static_cast<std::size_t>(c)];

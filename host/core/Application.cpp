@@ -7,32 +7,38 @@
 
 namespace kesto::core {
 
-Application* Application::getInstance() {
+Application* Application::getInstance()
+{
     static Application instance;
     return &instance;
 }
 
-Application::Application() {
+Application::Application()
+{
     m_helpHandler = [this](const QString& topic) { openHelpPage(topic); };
 }
 
-std::wstring Application::getSettingFolder() const {
+std::wstring Application::getSettingFolder() const
+{
     return m_config ? m_config->getSettingFolder() : std::wstring();
 }
 
-void Application::OpenHtmlHelp(const QString& topic) {
+void Application::OpenHtmlHelp(const QString& topic)
+{
     m_log.info(QStringLiteral("help topic %1").arg(topic));
     if (m_helpHandler)
         m_helpHandler(topic);
 }
 
-Application::HelpHandler Application::setHelpHandler(HelpHandler handler) {
+Application::HelpHandler Application::setHelpHandler(HelpHandler handler)
+{
     std::swap(handler, m_helpHandler);
     return handler;
 }
 
 // Help pages are HTML files named after their topic in the resource folder's "help" folder.
-void Application::openHelpPage(const QString& topic) {
+void Application::openHelpPage(const QString& topic)
+{
     const QDir helpDir(QString::fromStdWString(m_resourceFolder) + QStringLiteral("/help"));
     const QFileInfo page(helpDir.filePath(topic + QStringLiteral(".html")));
     if (!page.isFile()) {

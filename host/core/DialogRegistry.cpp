@@ -4,18 +4,21 @@
 
 namespace kesto::core {
 
-void DialogRegistry::announce(const QString& name, QWidget* dialog) {
+void DialogRegistry::announce(const QString& name, QWidget* dialog)
+{
     prune();
     m_entries.push_back({name, dialog});
 }
 
-void DialogRegistry::withdraw(const QString& name, const QWidget* dialog) {
+void DialogRegistry::withdraw(const QString& name, const QWidget* dialog)
+{
     std::erase_if(m_entries, [&](const Entry& e) {
         return e.name == name && (e.dialog == dialog || e.dialog.isNull());
     });
 }
 
-QWidget* DialogRegistry::find(const QString& name) const {
+QWidget* DialogRegistry::find(const QString& name) const
+{
     for (auto it = m_entries.rbegin(); it != m_entries.rend(); ++it) {
         if (it->name == name && !it->dialog.isNull())
             return it->dialog;
@@ -23,7 +26,8 @@ QWidget* DialogRegistry::find(const QString& name) const {
     return nullptr;
 }
 
-QStringList DialogRegistry::openNames() const {
+QStringList DialogRegistry::openNames() const
+{
     QStringList names;
     for (const Entry& e : m_entries) {
         if (!e.dialog.isNull())
@@ -32,7 +36,8 @@ QStringList DialogRegistry::openNames() const {
     return names;
 }
 
-void DialogRegistry::prune() {
+void DialogRegistry::prune()
+{
     std::erase_if(m_entries, [](const Entry& e) { return e.dialog.isNull(); });
 }
 

@@ -37,7 +37,8 @@ private:
 class StreamLogSink : public ILogSink {
 public:
     explicit StreamLogSink(LogLevel threshold)
-        : m_threshold(threshold) {}
+        : m_threshold(threshold)
+    {}
     void write(const LogEntry& entry) override;
 
 private:

@@ -6,7 +6,8 @@
 
 namespace kesto::core {
 
-void CSystemConfig::setSettingFolder(const std::wstring& folder) {
+void CSystemConfig::setSettingFolder(const std::wstring& folder)
+{
     if (folder.empty()) {
         m_settingFolder.clear();
         return;
@@ -18,7 +19,8 @@ void CSystemConfig::setSettingFolder(const std::wstring& folder) {
 }
 
 ui::setting::CSettingBase*
-CSystemConfig::putSetting(std::unique_ptr<ui::setting::CSettingBase> setting) {
+CSystemConfig::putSetting(std::unique_ptr<ui::setting::CSettingBase> setting)
+{
     if (!setting)
         return nullptr;
     for (auto& existing : m_settings) {

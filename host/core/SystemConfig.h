@@ -31,14 +31,16 @@ public:
 
     // The current setting object of a class, found by a run-time type check.
     template <class T>
-    T* getSetting() const {
+    T* getSetting() const
+    {
         for (const auto& setting : m_settings) {
             if (auto* typed = dynamic_cast<T*>(setting.get()))
                 return typed;
         }
         return nullptr;
     }
-    const std::vector<std::unique_ptr<ui::setting::CSettingBase>>& settings() const {
+    const std::vector<std::unique_ptr<ui::setting::CSettingBase>>& settings() const
+    {
         return m_settings;
     }
 

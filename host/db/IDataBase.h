@@ -24,7 +24,8 @@ public:
 
     // Typed convenience over listElements.
     template <class T>
-    std::vector<T*> elementsOf(const std::wstring& type) const {
+    std::vector<T*> elementsOf(const std::wstring& type) const
+    {
         std::vector<KsObject*> all;
         listElements(type, all);
         std::vector<T*> out;

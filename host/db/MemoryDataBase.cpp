@@ -3,9 +3,11 @@
 #include <algorithm>
 
 CMemoryDataBase::CMemoryDataBase(std::wstring title)
-    : m_title(std::move(title)) {}
+    : m_title(std::move(title))
+{}
 
-void CMemoryDataBase::listElements(const std::wstring& type, std::vector<KsObject*>& out) const {
+void CMemoryDataBase::listElements(const std::wstring& type, std::vector<KsObject*>& out) const
+{
     const auto it = m_byType.find(type);
     if (it == m_byType.end())
         return;
@@ -14,19 +16,22 @@ void CMemoryDataBase::listElements(const std::wstring& type, std::vector<KsObjec
         out.push_back(element.get());
 }
 
-std::size_t CMemoryDataBase::countElements(const std::wstring& type) const {
+std::size_t CMemoryDataBase::countElements(const std::wstring& type) const
+{
     const auto it = m_byType.find(type);
     return it == m_byType.end() ? 0 : it->second.size();
 }
 
-void CMemoryDataBase::forEachElement(const std::function<void(KsObject&)>& visit) const {
+void CMemoryDataBase::forEachElement(const std::function<void(KsObject&)>& visit) const
+{
     for (const auto& [type, elements] : m_byType) {
         for (const auto& element : elements)
             visit(*element);
     }
 }
 
-KsObject* CMemoryDataBase::addElement(std::unique_ptr<KsObject> element) {
+KsObject* CMemoryDataBase::addElement(std::unique_ptr<KsObject> element)
+{
     if (!element)
         return nullptr;
     auto& list = m_byType[element->getType()];
@@ -34,21 +39,21 @@ KsObject* CMemoryDataBase::addElement(std::unique_ptr<KsObject> element) {
     return list.back().get();
 }
 
-bool CMemoryDataBase::removeElement(const KsObject* element) {
-    if (!element)
-        return false;
-    const auto it = m_byType.find(element->getType());
-    if (it == m_byType.end())
-        return false;
-    auto& list = it->second;
-    const auto found = std::find_if(list.begin(), list.end(),
-                                    [&](const auto& owned) { return owned.get() == element; });
-    if (found == list.end())
-        return false;
-    list.erase(found);
-    return true;
+bool CMemoryDataBase::removeElement(const KsObject* element)
+{
+    // The pointer may no longer be valid: compare addresses only.
+    for (auto& [type, list] : m_byType) {
+        const auto found = std::find_if(list.begin(), list.end(),
+                                        [&](const auto& owned) { return owned.get() == element; });
+        if (found != list.end()) {
+            list.erase(found);
+            return true;
+        }
+    }
+    return false;
 }
 
-void CMemoryDataBase::clear() {
+void CMemoryDataBase::clear()
+{
     m_byType.clear();
 }

@@ -18,7 +18,8 @@ public:
     // Takes ownership; returns the stored element.
     KsObject* addElement(std::unique_ptr<KsObject> element);
     template <class T, class... Args>
-    T* add(Args&&... args) {
+    T* add(Args&&... args)
+    {
         return static_cast<T*>(addElement(std::make_unique<T>(std::forward<Args>(args)...)));
     }
     bool removeElement(const KsObject* element);

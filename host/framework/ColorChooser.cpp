@@ -4,12 +4,14 @@
 
 namespace kesto::ui::framework {
 
-static ColorChooserHook::Handler& currentHandler() {
+static ColorChooserHook::Handler& currentHandler()
+{
     static ColorChooserHook::Handler handler;
     return handler;
 }
 
-std::optional<QColor> chooseColor(QWidget* parent, const QColor& initial) {
+std::optional<QColor> chooseColor(QWidget* parent, const QColor& initial)
+{
     if (const auto& handler = currentHandler())
         return handler(initial);
     const QColor chosen = QColorDialog::getColor(initial, parent);
@@ -18,7 +20,8 @@ std::optional<QColor> chooseColor(QWidget* parent, const QColor& initial) {
     return chosen;
 }
 
-ColorChooserHook::Handler ColorChooserHook::setHandler(Handler handler) {
+ColorChooserHook::Handler ColorChooserHook::setHandler(Handler handler)
+{
     std::swap(handler, currentHandler());
     return handler;
 }

@@ -11,7 +11,8 @@ void logHandlerEntry(const char* className, const char* method);
 
 // Runs a message handler; an exception is logged with the handler's name and rethrown.
 template <class F>
-decltype(auto) guardHandler(const char* className, const char* method, F&& handler) {
+decltype(auto) guardHandler(const char* className, const char* method, F&& handler)
+{
     try {
         return std::forward<F>(handler)();
     } catch (...) {

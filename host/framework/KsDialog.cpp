@@ -14,16 +14,19 @@ namespace {
 const char* const kCtrlIdProperty = "ctrlId";
 }
 
-int ctrlIdOf(const QWidget* widget) {
+int ctrlIdOf(const QWidget* widget)
+{
     return widget ? widget->property(kCtrlIdProperty).toInt() : 0;
 }
 
-void setCtrlId(QWidget* widget, int id) {
+void setCtrlId(QWidget* widget, int id)
+{
     if (widget)
         widget->setProperty(kCtrlIdProperty, id);
 }
 
-QWidget* findDlgItem(const QWidget* window, int id) {
+QWidget* findDlgItem(const QWidget* window, int id)
+{
     if (!window || id == 0)
         return nullptr;
     const auto children = window->findChildren<QWidget*>();
@@ -36,7 +39,8 @@ QWidget* findDlgItem(const QWidget* window, int id) {
 
 CKsDialog::CKsDialog(int templateId, QWidget* parent)
     : QDialog(parent)
-    , m_templateId(templateId) {
+    , m_templateId(templateId)
+{
     if (LayoutBuilder build = ResourceChain::instance().findLayout(templateId)) {
         build(this);
         m_hasLayout = true;
@@ -50,20 +54,23 @@ CKsDialog::CKsDialog(int templateId, QWidget* parent)
 
 CKsDialog::~CKsDialog() = default;
 
-int CKsDialog::DoModal() {
+int CKsDialog::DoModal()
+{
     if (!m_hasLayout || !initialize())
         return IDFAILED;
     m_ended = false;
     return ModalHook::run(*this);
 }
 
-void CKsDialog::EndDialog(int result) {
+void CKsDialog::EndDialog(int result)
+{
     m_ended = true;
     savePlacement();
     done(result);
 }
 
-bool CKsDialog::initialize() {
+bool CKsDialog::initialize()
+{
     if (m_initialized)
         return true;
     m_initialized = true;
@@ -73,7 +80,8 @@ bool CKsDialog::initialize() {
     return true;
 }
 
-void CKsDialog::restorePlacement() {
+void CKsDialog::restorePlacement()
+{
     resize(size().expandedTo(sizeHint()));
     if (m_firstSizeIsMinimum)
         setMinimumSize(size());
@@ -81,12 +89,14 @@ void CKsDialog::restorePlacement() {
         core::Application::getInstance()->placements().restorePlacement(m_placementKey, this);
 }
 
-void CKsDialog::savePlacement() {
+void CKsDialog::savePlacement()
+{
     if (!m_placementKey.isEmpty() && m_initialized)
         core::Application::getInstance()->placements().savePlacement(m_placementKey, this);
 }
 
-QWidget* CKsDialog::GetDlgItem(int id) const {
+QWidget* CKsDialog::GetDlgItem(int id) const
+{
     auto it = m_controls.constFind(id);
     if (it == m_controls.constEnd() || it.value() == nullptr || ctrlIdOf(it.value()) != id) {
         indexControls();
@@ -95,7 +105,8 @@ QWidget* CKsDialog::GetDlgItem(int id) const {
     return it == m_controls.constEnd() ? nullptr : it.value();
 }
 
-void CKsDialog::indexControls() const {
+void CKsDialog::indexControls() const
+{
     m_controls.clear();
     const auto children = findChildren<QWidget*>();
     for (QWidget* child : children) {
@@ -104,19 +115,23 @@ void CKsDialog::indexControls() const {
     }
 }
 
-bool CKsDialog::OnInitDialog() {
+bool CKsDialog::OnInitDialog()
+{
     return true;
 }
 
-void CKsDialog::OnOK() {
+void CKsDialog::OnOK()
+{
     EndDialog(IDOK);
 }
 
-void CKsDialog::OnCancel() {
+void CKsDialog::OnCancel()
+{
     EndDialog(IDCANCEL);
 }
 
-bool CKsDialog::onClicked(int id, std::function<void()> handler) {
+bool CKsDialog::onClicked(int id, std::function<void()> handler)
+{
     auto* button = dlgItem<QAbstractButton>(id);
     if (!button)
         return false;
@@ -124,7 +139,8 @@ bool CKsDialog::onClicked(int id, std::function<void()> handler) {
     return true;
 }
 
-void CKsDialog::equalizeWidths(std::initializer_list<int> ids) {
+void CKsDialog::equalizeWidths(std::initializer_list<int> ids)
+{
     int widest = 0;
     for (int id : ids) {
         if (const QWidget* control = GetDlgItem(id))
@@ -137,12 +153,14 @@ void CKsDialog::equalizeWidths(std::initializer_list<int> ids) {
 }
 
 // Escape and the close box behave as the Cancel button.
-void CKsDialog::reject() {
+void CKsDialog::reject()
+{
     OnCancel();
 }
 
 // Enter on a default button behaves as the OK button.
-void CKsDialog::accept() {
+void CKsDialog::accept()
+{
     OnOK();
 }
 

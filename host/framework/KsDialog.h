@@ -42,7 +42,8 @@ public:
 
     QWidget* GetDlgItem(int id) const;
     template <class T>
-    T* dlgItem(int id) const {
+    T* dlgItem(int id) const
+    {
         return qobject_cast<T*>(GetDlgItem(id));
     }
 

@@ -9,16 +9,19 @@ namespace kesto::ui::framework {
 
 namespace {
 
-MessageBoxHook::Handler& currentHandler() {
+MessageBoxHook::Handler& currentHandler()
+{
     static MessageBoxHook::Handler handler;
     return handler;
 }
 
-unsigned buttonsOf(unsigned type) {
+unsigned buttonsOf(unsigned type)
+{
     return type & 0xFu;
 }
 
-QMessageBox::Icon iconOf(unsigned type) {
+QMessageBox::Icon iconOf(unsigned type)
+{
     switch (type & 0xF0u) {
     case MB_ICONERROR:
         return QMessageBox::Critical;
@@ -33,7 +36,8 @@ QMessageBox::Icon iconOf(unsigned type) {
     }
 }
 
-int showRealBox(QWidget* parent, const MessageBoxRequest& request) {
+int showRealBox(QWidget* parent, const MessageBoxRequest& request)
+{
     QMessageBox box(iconOf(request.type), request.caption, request.text, QMessageBox::NoButton,
                     parent);
     struct Choice {
@@ -72,32 +76,38 @@ int showRealBox(QWidget* parent, const MessageBoxRequest& request) {
 
 } // namespace
 
-int MessageBox(QWidget* parent, const QString& text, const QString& caption, unsigned type) {
+int MessageBox(QWidget* parent, const QString& text, const QString& caption, unsigned type)
+{
     const MessageBoxRequest request{text, caption, type};
     if (const auto& handler = currentHandler())
         return handler(request);
     return showRealBox(parent, request);
 }
 
-MessageBoxHook::Handler MessageBoxHook::setHandler(Handler handler) {
+MessageBoxHook::Handler MessageBoxHook::setHandler(Handler handler)
+{
     std::swap(handler, currentHandler());
     return handler;
 }
 
-const MessageBoxHook::Handler& MessageBoxHook::handler() {
+const MessageBoxHook::Handler& MessageBoxHook::handler()
+{
     return currentHandler();
 }
 
-MessageBoxRecorder::MessageBoxRecorder() {
+MessageBoxRecorder::MessageBoxRecorder()
+{
     m_previous =
         MessageBoxHook::setHandler([this](const MessageBoxRequest& r) { return answer(r); });
 }
 
-MessageBoxRecorder::~MessageBoxRecorder() {
+MessageBoxRecorder::~MessageBoxRecorder()
+{
     MessageBoxHook::setHandler(std::move(m_previous));
 }
 
-int MessageBoxRecorder::answer(const MessageBoxRequest& request) {
+int MessageBoxRecorder::answer(const MessageBoxRequest& request)
+{
     m_shown.push_back(request);
     if (!m_answers.empty()) {
         const int result = m_answers.front();

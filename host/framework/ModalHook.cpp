@@ -4,17 +4,20 @@
 
 namespace kesto::ui::framework {
 
-std::deque<ModalHook::Driver>& ModalHook::drivers() {
+std::deque<ModalHook::Driver>& ModalHook::drivers()
+{
     static std::deque<Driver> queued;
     return queued;
 }
 
-ModalHook::Driver& ModalHook::standing() {
+ModalHook::Driver& ModalHook::standing()
+{
     static Driver driver;
     return driver;
 }
 
-int ModalHook::run(CKsDialog& dialog) {
+int ModalHook::run(CKsDialog& dialog)
+{
     if (!drivers().empty()) {
         Driver driver = std::move(drivers().front());
         drivers().pop_front();
@@ -27,7 +30,8 @@ int ModalHook::run(CKsDialog& dialog) {
 
 // The dialog is shown (offscreen when there is no display), handed to the driver, and closed
 // as if by Escape when the driver did not end it.
-int ModalHook::runDriven(CKsDialog& dialog, const Driver& driver) {
+int ModalHook::runDriven(CKsDialog& dialog, const Driver& driver)
+{
     dialog.setResult(0);
     dialog.show();
     driver(dialog);
@@ -39,19 +43,23 @@ int ModalHook::runDriven(CKsDialog& dialog, const Driver& driver) {
     return dialog.result();
 }
 
-void ModalHook::queue(Driver driver) {
+void ModalHook::queue(Driver driver)
+{
     drivers().push_back(std::move(driver));
 }
 
-void ModalHook::setStandingDriver(Driver driver) {
+void ModalHook::setStandingDriver(Driver driver)
+{
     standing() = std::move(driver);
 }
 
-std::size_t ModalHook::queuedCount() {
+std::size_t ModalHook::queuedCount()
+{
     return drivers().size();
 }
 
-void ModalHook::clearQueue() {
+void ModalHook::clearQueue()
+{
     drivers().clear();
 }
 

@@ -39,7 +39,8 @@ public:
     ScopedModalDrivers(const ScopedModalDrivers&) = delete;
     ScopedModalDrivers& operator=(const ScopedModalDrivers&) = delete;
 
-    ScopedModalDrivers& add(ModalHook::Driver driver) {
+    ScopedModalDrivers& add(ModalHook::Driver driver)
+    {
         ModalHook::queue(std::move(driver));
         return *this;
     }

@@ -23,7 +23,8 @@ struct StringEntry {
 class ResourceModule {
 public:
     explicit ResourceModule(QString name)
-        : m_name(std::move(name)) {}
+        : m_name(std::move(name))
+    {}
     ResourceModule(const ResourceModule&) = delete;
     ResourceModule& operator=(const ResourceModule&) = delete;
 

@@ -2,7 +2,8 @@
 
 namespace kesto::ui::refDlg {
 
-void SRefDlgData::clear() {
+void SRefDlgData::clear()
+{
     requestCode = RequestNone;
     referenceEnabled = false;
     pickedElement.reset();

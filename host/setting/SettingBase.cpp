@@ -4,7 +4,8 @@
 
 namespace kesto::ui::setting {
 
-bool CSettingBase::loadXML(const std::wstring& path, QString* error) {
+bool CSettingBase::loadXML(const std::wstring& path, QString* error)
+{
     QDomDocument doc;
     if (!utility::xml::load(doc, path, error))
         return false;
@@ -23,7 +24,8 @@ bool CSettingBase::loadXML(const std::wstring& path, QString* error) {
     return true;
 }
 
-bool CSettingBase::saveXML(const std::wstring& path, QString* error) const {
+bool CSettingBase::saveXML(const std::wstring& path, QString* error) const
+{
     QDomDocument doc;
     doc.appendChild(doc.createProcessingInstruction(
         QStringLiteral("xml"), QStringLiteral("version=\"1.0\" encoding=\"UTF-8\"")));

@@ -37,10 +37,12 @@ protected:
 template <class Derived>
 class TSetting : public CSettingBase {
 public:
-    std::unique_ptr<CSettingBase> clone() const override {
+    std::unique_ptr<CSettingBase> clone() const override
+    {
         return std::make_unique<Derived>(static_cast<const Derived&>(*this));
     }
-    bool assign(const CSettingBase& other) override {
+    bool assign(const CSettingBase& other) override
+    {
         const auto* same = dynamic_cast<const Derived*>(&other);
         if (!same)
             return false;

@@ -11,17 +11,20 @@ namespace kesto::ui::setting {
 namespace {
 constexpr double kStoredPrecision = 0.5e-6;
 
-QString scaleTag() {
+QString scaleTag()
+{
     return QStringLiteral("Scale");
 }
 } // namespace
 
-bool SSystemScale::isSame(double otherNumerator, double otherDenominator) const {
-    return std::fabs(numerator - otherNumerator) < kStoredPrecision &&
-           std::fabs(denominator - otherDenominator) < kStoredPrecision;
+bool SSystemScale::isSame(double otherNumerator, double otherDenominator) const
+{
+    return std::fabs(numerator - otherNumerator) < kStoredPrecision
+           && std::fabs(denominator - otherDenominator) < kStoredPrecision;
 }
 
-CSystemScaleSetting CSystemScaleSetting::makeDefault() {
+CSystemScaleSetting CSystemScaleSetting::makeDefault()
+{
     static const double denominators[] = {1, 2, 5, 10, 20, 50, 100, 200, 250, 500, 1000};
     std::vector<SSystemScale> scales;
     for (double denominator : denominators)
@@ -32,15 +35,16 @@ CSystemScaleSetting CSystemScaleSetting::makeDefault() {
     return setting;
 }
 
-bool CSystemScaleSetting::loadXMLNode(const QDomElement& element) {
+bool CSystemScaleSetting::loadXMLNode(const QDomElement& element)
+{
     std::vector<SSystemScale> scales;
     for (QDomElement e = element.firstChildElement(scaleTag()); !e.isNull();
          e = e.nextSiblingElement(scaleTag())) {
         SSystemScale scale;
-        if (!utility::xml::readDoubleAttribute(e, QStringLiteral("numerator"), scale.numerator) ||
-            !utility::xml::readDoubleAttribute(e, QStringLiteral("denominator"),
-                                               scale.denominator) ||
-            scale.numerator <= 0.0 || scale.denominator <= 0.0)
+        if (!utility::xml::readDoubleAttribute(e, QStringLiteral("numerator"), scale.numerator)
+            || !utility::xml::readDoubleAttribute(e, QStringLiteral("denominator"),
+                                                  scale.denominator)
+            || scale.numerator <= 0.0 || scale.denominator <= 0.0)
             return false;
         scale.name = e.attribute(QStringLiteral("name")).toStdWString();
         if (scale.name.empty())
@@ -51,7 +55,8 @@ bool CSystemScaleSetting::loadXMLNode(const QDomElement& element) {
     return true;
 }
 
-void CSystemScaleSetting::saveXMLNode(QDomDocument& doc, QDomElement& element) const {
+void CSystemScaleSetting::saveXMLNode(QDomDocument& doc, QDomElement& element) const
+{
     using utility::formatDecimal;
     for (const SSystemScale& scale : m_scales) {
         QDomElement e = doc.createElement(scaleTag());

@@ -1,4 +1,5 @@
 #include "types/KsLayer.h"
 
 KsLayer::KsLayer(std::wstring name)
-    : m_name(std::move(name)) {}
+    : m_name(std::move(name))
+{}

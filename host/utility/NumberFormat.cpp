@@ -4,7 +4,8 @@
 
 namespace kesto::utility {
 
-QString formatDecimal(double value, int maxDecimals) {
+QString formatDecimal(double value, int maxDecimals)
+{
     QString text = QString::number(value, 'f', maxDecimals);
     if (text.contains(u'.')) {
         while (text.endsWith(u'0'))
@@ -17,7 +18,8 @@ QString formatDecimal(double value, int maxDecimals) {
     return text;
 }
 
-static QString toHalfWidth(const QString& text) {
+static QString toHalfWidth(const QString& text)
+{
     QString out;
     out.reserve(text.size());
     for (QChar c : text) {
@@ -36,7 +38,8 @@ static QString toHalfWidth(const QString& text) {
     return out;
 }
 
-std::optional<double> parseDecimal(const QString& text) {
+std::optional<double> parseDecimal(const QString& text)
+{
     bool ok = false;
     const double value = toHalfWidth(text.trimmed()).toDouble(&ok);
     if (!ok || !std::isfinite(value))
@@ -44,7 +47,8 @@ std::optional<double> parseDecimal(const QString& text) {
     return value;
 }
 
-double roundToDecimals(double value, int decimals) {
+double roundToDecimals(double value, int decimals)
+{
     return QString::number(value, 'f', decimals).toDouble();
 }
 

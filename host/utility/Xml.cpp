@@ -7,12 +7,14 @@
 
 namespace kesto::utility::xml {
 
-static void setError(QString* error, const QString& text) {
+static void setError(QString* error, const QString& text)
+{
     if (error)
         *error = text;
 }
 
-bool parse(QDomDocument& doc, const QByteArray& bytes, QString* error) {
+bool parse(QDomDocument& doc, const QByteArray& bytes, QString* error)
+{
     if (bytes.size() > kMaxDocumentBytes) {
         setError(error, QStringLiteral("the file is larger than %1 bytes").arg(kMaxDocumentBytes));
         return false;
@@ -34,7 +36,8 @@ bool parse(QDomDocument& doc, const QByteArray& bytes, QString* error) {
     return true;
 }
 
-bool load(QDomDocument& doc, const std::wstring& path, QString* error) {
+bool load(QDomDocument& doc, const std::wstring& path, QString* error)
+{
     QFile file(QString::fromStdWString(path));
     if (!file.open(QIODevice::ReadOnly)) {
         setError(error, file.errorString());
@@ -47,7 +50,8 @@ bool load(QDomDocument& doc, const std::wstring& path, QString* error) {
     return parse(doc, file.read(kMaxDocumentBytes + 1), error);
 }
 
-bool save(const QDomDocument& doc, const std::wstring& path, QString* error) {
+bool save(const QDomDocument& doc, const std::wstring& path, QString* error)
+{
     QByteArray bytes = doc.toByteArray(2);
     if (!bytes.startsWith("<?xml"))
         bytes.prepend("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n");
@@ -59,12 +63,14 @@ bool save(const QDomDocument& doc, const std::wstring& path, QString* error) {
     return true;
 }
 
-bool getRootElement(QDomElement& out, const QDomDocument& doc) {
+bool getRootElement(QDomElement& out, const QDomDocument& doc)
+{
     out = doc.documentElement();
     return !out.isNull();
 }
 
-bool readDoubleAttribute(const QDomElement& element, const QString& name, double& out) {
+bool readDoubleAttribute(const QDomElement& element, const QString& name, double& out)
+{
     bool ok = false;
     const double value = element.attribute(name).toDouble(&ok);
     if (!ok || !std::isfinite(value))
@@ -73,7 +79,8 @@ bool readDoubleAttribute(const QDomElement& element, const QString& name, double
     return true;
 }
 
-bool readIntAttribute(const QDomElement& element, const QString& name, int& out) {
+bool readIntAttribute(const QDomElement& element, const QString& name, int& out)
+{
     bool ok = false;
     const int value = element.attribute(name).toInt(&ok);
     if (!ok)

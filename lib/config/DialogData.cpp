@@ -7,11 +7,13 @@ namespace kesto::ui::config {
 SDrawCommonDlgData::SDrawCommonDlgData() = default;
 
 SDrawCommonDlgData::SDrawCommonDlgData(const SDrawCommonDlgData& other)
-    : SRefDlgData() {
+    : SRefDlgData()
+{
     *this = other;
 }
 
-SDrawCommonDlgData& SDrawCommonDlgData::operator=(const SDrawCommonDlgData& other) {
+SDrawCommonDlgData& SDrawCommonDlgData::operator=(const SDrawCommonDlgData& other)
+{
     if (this == &other)
         return *this;
     SRefDlgData::operator=(other);
@@ -23,22 +25,26 @@ SDrawCommonDlgData& SDrawCommonDlgData::operator=(const SDrawCommonDlgData& othe
 
 SDrawCommonDlgData::~SDrawCommonDlgData() = default;
 
-void SDrawCommonDlgData::clear() {
+void SDrawCommonDlgData::clear()
+{
     coordinateSystemName.clear();
     scaleName.clear();
     layerName.clear();
 }
 
-SDrawDimensionDlgData::SDrawDimensionDlgData() {
+SDrawDimensionDlgData::SDrawDimensionDlgData()
+{
     clear();
 }
 
 SDrawDimensionDlgData::SDrawDimensionDlgData(const SDrawDimensionDlgData& other)
-    : SDrawDimensionDlgData() {
+    : SDrawDimensionDlgData()
+{
     *this = other;
 }
 
-SDrawDimensionDlgData& SDrawDimensionDlgData::operator=(const SDrawDimensionDlgData& other) {
+SDrawDimensionDlgData& SDrawDimensionDlgData::operator=(const SDrawDimensionDlgData& other)
+{
     if (this == &other)
         return *this;
     names = other.names;
@@ -48,7 +54,8 @@ SDrawDimensionDlgData& SDrawDimensionDlgData::operator=(const SDrawDimensionDlgD
 
 SDrawDimensionDlgData::~SDrawDimensionDlgData() = default;
 
-void SDrawDimensionDlgData::clear() {
+void SDrawDimensionDlgData::clear()
+{
     for (std::wstring& name : names)
         name.clear();
     flags.fill(true);
@@ -57,11 +64,13 @@ void SDrawDimensionDlgData::clear() {
 SDrawPointDlgData::SDrawPointDlgData() = default;
 
 SDrawPointDlgData::SDrawPointDlgData(const SDrawPointDlgData& other)
-    : SRefDlgData() {
+    : SRefDlgData()
+{
     *this = other;
 }
 
-SDrawPointDlgData& SDrawPointDlgData::operator=(const SDrawPointDlgData& other) {
+SDrawPointDlgData& SDrawPointDlgData::operator=(const SDrawPointDlgData& other)
+{
     if (this == &other)
         return *this;
     SRefDlgData::operator=(other);
@@ -71,18 +80,21 @@ SDrawPointDlgData& SDrawPointDlgData::operator=(const SDrawPointDlgData& other) 
 
 SDrawPointDlgData::~SDrawPointDlgData() = default;
 
-void SDrawPointDlgData::clear() {
+void SDrawPointDlgData::clear()
+{
     sampleSource = 0;
 }
 
 SDrawTextDlgData::SDrawTextDlgData() = default;
 
 SDrawTextDlgData::SDrawTextDlgData(const SDrawTextDlgData& other)
-    : SDrawTextDlgData() {
+    : SDrawTextDlgData()
+{
     *this = other;
 }
 
-SDrawTextDlgData& SDrawTextDlgData::operator=(const SDrawTextDlgData& other) {
+SDrawTextDlgData& SDrawTextDlgData::operator=(const SDrawTextDlgData& other)
+{
     if (this == &other)
         return *this;
     layerName = other.layerName;
@@ -92,7 +104,8 @@ SDrawTextDlgData& SDrawTextDlgData::operator=(const SDrawTextDlgData& other) {
 
 SDrawTextDlgData::~SDrawTextDlgData() = default;
 
-void SDrawTextDlgData::clear() {
+void SDrawTextDlgData::clear()
+{
     layerName.clear();
     keepLayer = true;
 }
@@ -100,11 +113,13 @@ void SDrawTextDlgData::clear() {
 SDrawLeaderDlgData::SDrawLeaderDlgData() = default;
 
 SDrawLeaderDlgData::SDrawLeaderDlgData(const SDrawLeaderDlgData& other)
-    : SRefDlgData() {
+    : SRefDlgData()
+{
     *this = other;
 }
 
-SDrawLeaderDlgData& SDrawLeaderDlgData::operator=(const SDrawLeaderDlgData& other) {
+SDrawLeaderDlgData& SDrawLeaderDlgData::operator=(const SDrawLeaderDlgData& other)
+{
     if (this == &other)
         return *this;
     SRefDlgData::operator=(other);
@@ -115,7 +130,8 @@ SDrawLeaderDlgData& SDrawLeaderDlgData::operator=(const SDrawLeaderDlgData& othe
 
 SDrawLeaderDlgData::~SDrawLeaderDlgData() = default;
 
-void SDrawLeaderDlgData::clear() {
+void SDrawLeaderDlgData::clear()
+{
     SRefDlgData::clear();
     layerName.clear();
     keepLayer = true;
@@ -124,13 +140,15 @@ void SDrawLeaderDlgData::clear() {
 SDrawVirtualElementDlgData::SDrawVirtualElementDlgData() = default;
 
 SDrawVirtualElementDlgData::SDrawVirtualElementDlgData(const SDrawVirtualElementDlgData& other)
-    : SDrawVirtualElementDlgData() {
+    : SDrawVirtualElementDlgData()
+{
     *this = other;
 }
 
 // The value is copied even onto itself; the list only from another record.
 SDrawVirtualElementDlgData&
-SDrawVirtualElementDlgData::operator=(const SDrawVirtualElementDlgData& other) {
+SDrawVirtualElementDlgData::operator=(const SDrawVirtualElementDlgData& other)
+{
     value = other.value;
     if (this != &other)
         list = other.list;
@@ -139,7 +157,8 @@ SDrawVirtualElementDlgData::operator=(const SDrawVirtualElementDlgData& other) {
 
 SDrawVirtualElementDlgData::~SDrawVirtualElementDlgData() = default;
 
-void SDrawVirtualElementDlgData::clear() {
+void SDrawVirtualElementDlgData::clear()
+{
     value = 0;
 }
 

@@ -9,11 +9,11 @@ namespace kesto::ui::config {
 
 namespace {
 
-framework::ResourceModule* createModule() {
+framework::ResourceModule* createModule()
+{
     auto* module = new framework::ResourceModule(QStringLiteral("KsSystemConfigDlg"));
-    const bool ok = res::registerCommonResources(*module) &&
-                    res::registerSystemResources(*module) &&
-                    framework::ResourceChain::instance().add(module);
+    const bool ok = res::registerCommonResources(*module) && res::registerSystemResources(*module)
+                    && framework::ResourceChain::instance().add(module);
     if (!ok) {
         delete module;
         return nullptr;
@@ -24,7 +24,8 @@ framework::ResourceModule* createModule() {
 // Registration when the library loads; a library whose resources cannot be registered
 // refuses to load.
 struct ModuleLoad {
-    ModuleLoad() {
+    ModuleLoad()
+    {
         if (!libraryResourceHandle()) {
             std::fputs("KsSystemConfigDlg: registering the resources failed\n", stderr);
             std::abort();
@@ -36,7 +37,8 @@ const ModuleLoad s_moduleLoad;
 
 } // namespace
 
-framework::ResourceHandle libraryResourceHandle() {
+framework::ResourceHandle libraryResourceHandle()
+{
     // Kept for the life of the process; unloading only takes it off the chain.
     static const framework::ResourceModule* const module = createModule();
     return module;

@@ -30,8 +30,11 @@ protected:
 };
 
 template <class D, class S>
-concept EditsSetting = requires(D& dialog) {
-    { dialog.workingSetting() } -> std::convertible_to<S&>;
+concept EditsSetting = requires(D& dialog)
+{
+    {
+        dialog.workingSetting()
+        } -> std::convertible_to<S&>;
 };
 
 // The one modal protocol of the entry functions: switch to the library's resources, build the
@@ -39,8 +42,8 @@ concept EditsSetting = requires(D& dialog) {
 // every path, copy the working copy back by the rule, then destroy the dialog.
 template <class Dialog, class Setting, class Prepare>
 requires EditsSetting<Dialog, Setting>
-bool runSettingDialog(Setting& setting, const Setting* resetValue, CopyBack rule,
-                      Prepare&& prepare) {
+bool runSettingDialog(Setting& setting, const Setting* resetValue, CopyBack rule, Prepare&& prepare)
+{
     framework::ResourceSwitch resources(libraryResourceHandle());
     Dialog dialog;
     dialog.workingSetting() = setting;
@@ -70,7 +73,8 @@ bool runSettingDialog(Setting& setting, const Setting* resetValue, CopyBack rule
 
 template <class Dialog, class Setting>
 requires EditsSetting<Dialog, Setting>
-bool runSettingDialog(Setting& setting, const Setting* resetValue, CopyBack rule) {
+bool runSettingDialog(Setting& setting, const Setting* resetValue, CopyBack rule)
+{
     return runSettingDialog<Dialog>(setting, resetValue, rule, [](Dialog&) {});
 }
 

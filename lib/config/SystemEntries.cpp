@@ -6,11 +6,13 @@
 namespace kesto::ui::config {
 
 bool doSystemScaleDlg(setting::CSystemScaleSetting& setting,
-                      const setting::CSystemScaleSetting& defaults) {
+                      const setting::CSystemScaleSetting& defaults)
+{
     return runSettingDialog<CSystemScaleDlg>(setting, &defaults, CopyBack::OnOk);
 }
 
-bool doSystemScaleDlgAddMode(setting::CSystemScaleSetting& setting) {
+bool doSystemScaleDlgAddMode(setting::CSystemScaleSetting& setting)
+{
     // The setting is its own reset value.
     const setting::CSystemScaleSetting resetValue = setting;
     return runSettingDialog<CSystemScaleDlg>(setting, &resetValue, CopyBack::OnOk,

@@ -13,7 +13,8 @@ const framework::StringEntry kStrings[] = {
 };
 } // namespace
 
-bool registerCommonResources(framework::ResourceModule& module) {
+bool registerCommonResources(framework::ResourceModule& module)
+{
     return module.addStrings(kStrings, std::size(kStrings));
 }
 

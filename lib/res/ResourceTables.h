@@ -12,7 +12,8 @@ bool registerSystemResources(framework::ResourceModule& module);
 
 // A layout made by uic: the controls are children of the dialog, the Ui object is not kept.
 template <class Ui>
-void buildLayout(QDialog* dialog) {
+void buildLayout(QDialog* dialog)
+{
     Ui ui;
     ui.setupUi(dialog);
 }

@@ -20,9 +20,10 @@ const framework::StringEntry kStrings[] = {
 
 } // namespace
 
-bool registerSystemResources(framework::ResourceModule& module) {
-    return module.addStrings(kStrings, std::size(kStrings)) &&
-           module.addLayout(IDD_SYSTEM_SCALE, &buildLayout<Ui::Dlg2039>);
+bool registerSystemResources(framework::ResourceModule& module)
+{
+    return module.addStrings(kStrings, std::size(kStrings))
+           && module.addLayout(IDD_SYSTEM_SCALE, &buildLayout<Ui::Dlg2039>);
 }
 
 } // namespace kesto::ui::config::res

@@ -22,7 +22,8 @@ using setting::SSystemScale;
 namespace {
 const char* const kClass = "CSystemScaleDlg";
 
-std::vector<SSystemScale> scalesOfCurrentDrawing(bool& hasDrawing) {
+std::vector<SSystemScale> scalesOfCurrentDrawing(bool& hasDrawing)
+{
     std::vector<SSystemScale> scales;
     const core::CSystemConfig* config = core::Application::getInstance()->getSystemConfig();
     const IDataBase* db = config ? config->getCurrentDataBase() : nullptr;
@@ -34,7 +35,8 @@ std::vector<SSystemScale> scalesOfCurrentDrawing(bool& hasDrawing) {
     return scales;
 }
 
-std::vector<control::SListRow> rowsOf(const std::vector<SSystemScale>& scales) {
+std::vector<control::SListRow> rowsOf(const std::vector<SSystemScale>& scales)
+{
     std::vector<control::SListRow> rows;
     rows.reserve(scales.size());
     for (const SSystemScale& scale : scales)
@@ -44,19 +46,22 @@ std::vector<control::SListRow> rowsOf(const std::vector<SSystemScale>& scales) {
 } // namespace
 
 CSystemScaleDlg::CSystemScaleDlg()
-    : TSettingDialog(IDD_SYSTEM_SCALE) {
+    : TSettingDialog(IDD_SYSTEM_SCALE)
+{
     setPlacementKey(QStringLiteral("SystemScaleDlg"));
     keepFirstSizeAsMinimum(true);
     m_tab = dlgItem<QTabBar>(IDC_TAB);
     m_list = dlgItem<control::CKsListCtrl>(IDC_LIST);
 }
 
-CSystemScaleDlg::~CSystemScaleDlg() {
+CSystemScaleDlg::~CSystemScaleDlg()
+{
     if (m_list)
         m_list->detach(this);
 }
 
-bool CSystemScaleDlg::OnInitDialog() {
+bool CSystemScaleDlg::OnInitDialog()
+{
     return guardHandler(kClass, "OnInitDialog", [&] {
         if (!m_tab || !m_list)
             return false;
@@ -80,7 +85,8 @@ bool CSystemScaleDlg::OnInitDialog() {
     });
 }
 
-void CSystemScaleDlg::setupList() {
+void CSystemScaleDlg::setupList()
+{
     using control::EColumnType;
     const Qt::Alignment right = Qt::AlignRight;
     m_list->addColumn(loadString(IDS_SCALE_COLUMN_NAME), 100, EColumnType::Text, Qt::AlignLeft,
@@ -91,11 +97,13 @@ void CSystemScaleDlg::setupList() {
     connect(m_list, &control::CKsListCtrl::selectedRowChanged, this, [this] { refreshButtons(); });
 }
 
-bool CSystemScaleDlg::onDrawingTab() const {
+bool CSystemScaleDlg::onDrawingTab() const
+{
     return m_tab->currentIndex() == TabDrawing;
 }
 
-void CSystemScaleDlg::fillList() {
+void CSystemScaleDlg::fillList()
+{
     const bool drawing = onDrawingTab();
     m_list->setRows(rowsOf(drawing ? m_drawingScales : m_scales));
     m_list->setEditable(!drawing);
@@ -106,7 +114,8 @@ void CSystemScaleDlg::fillList() {
     refreshButtons();
 }
 
-void CSystemScaleDlg::refreshButtons() {
+void CSystemScaleDlg::refreshButtons()
+{
     const auto states =
         scaletable::buttonStates(onDrawingTab(), m_addMode, m_list->getSelectedRow() >= 0);
     auto apply = [this](int id, bool visible, bool enabled) {
@@ -122,11 +131,13 @@ void CSystemScaleDlg::refreshButtons() {
     apply(IDC_RESET, states.resetVisible, true);
 }
 
-void CSystemScaleDlg::OnTcnSelchangeTab() {
+void CSystemScaleDlg::OnTcnSelchangeTab()
+{
     guardHandler(kClass, "OnTcnSelchangeTab", [&] { fillList(); });
 }
 
-void CSystemScaleDlg::OnBnClickedAdd() {
+void CSystemScaleDlg::OnBnClickedAdd()
+{
     guardHandler(kClass, "OnBnClickedAdd", [&] {
         if (onDrawingTab())
             return;
@@ -138,7 +149,8 @@ void CSystemScaleDlg::OnBnClickedAdd() {
     });
 }
 
-void CSystemScaleDlg::OnBnClickedInsert() {
+void CSystemScaleDlg::OnBnClickedInsert()
+{
     guardHandler(kClass, "OnBnClickedInsert", [&] {
         const int row = m_list->getSelectedRow();
         if (onDrawingTab() || row < 0)
@@ -150,7 +162,8 @@ void CSystemScaleDlg::OnBnClickedInsert() {
     });
 }
 
-void CSystemScaleDlg::OnBnClickedDelete() {
+void CSystemScaleDlg::OnBnClickedDelete()
+{
     guardHandler(kClass, "OnBnClickedDelete", [&] {
         const int row = m_list->getSelectedRow();
         if (onDrawingTab() || row < 0)
@@ -163,7 +176,8 @@ void CSystemScaleDlg::OnBnClickedDelete() {
     });
 }
 
-void CSystemScaleDlg::OnBnClickedReset() {
+void CSystemScaleDlg::OnBnClickedReset()
+{
     guardHandler(kClass, "OnBnClickedReset", [&] {
         m_setting = m_resetSetting;
         m_scales = m_setting.getSystemScales();
@@ -172,11 +186,12 @@ void CSystemScaleDlg::OnBnClickedReset() {
     });
 }
 
-void CSystemScaleDlg::OnBnClickedRegister() {
+void CSystemScaleDlg::OnBnClickedRegister()
+{
     guardHandler(kClass, "OnBnClickedRegister", [&] {
         const int row = m_list->getSelectedRow();
-        if (m_addMode || !onDrawingTab() || row < 0 ||
-            row >= static_cast<int>(m_drawingScales.size()))
+        if (m_addMode || !onDrawingTab() || row < 0
+            || row >= static_cast<int>(m_drawingScales.size()))
             return;
         const SSystemScale& picked = m_drawingScales[static_cast<std::size_t>(row)];
         if (scaletable::containsSame(m_scales, picked.numerator, picked.denominator)) {
@@ -189,11 +204,13 @@ void CSystemScaleDlg::OnBnClickedRegister() {
     });
 }
 
-void CSystemScaleDlg::OnBnClickedHelp() {
+void CSystemScaleDlg::OnBnClickedHelp()
+{
     core::Application::getInstance()->OpenHtmlHelp(QStringLiteral("DLG_HLP_SYS_SCALE"));
 }
 
-void CSystemScaleDlg::update(kesto::Subject* subject, int event, void* data) {
+void CSystemScaleDlg::update(kesto::Subject* subject, int event, void* data)
+{
     if (subject != m_list || event != control::LIST_EVENT_CELL_CHANGED || !data)
         return;
     const auto* change = static_cast<const control::SListCellEvent*>(data);
@@ -202,10 +219,11 @@ void CSystemScaleDlg::update(kesto::Subject* subject, int event, void* data) {
 
 // A typed value is stored with six decimals and shown again as stored; anything that is not
 // a number above zero is refused and the cell gets its stored value back.
-void CSystemScaleDlg::onCellChanged(int row, int column, const QString& text) {
+void CSystemScaleDlg::onCellChanged(int row, int column, const QString& text)
+{
     guardHandler(kClass, "OnEndEditList", [&] {
-        if (onDrawingTab() || row < 0 || row >= static_cast<int>(m_scales.size()) ||
-            (column != scaletable::ColumnNumerator && column != scaletable::ColumnDenominator))
+        if (onDrawingTab() || row < 0 || row >= static_cast<int>(m_scales.size())
+            || (column != scaletable::ColumnNumerator && column != scaletable::ColumnDenominator))
             return;
         SSystemScale& scale = m_scales[static_cast<std::size_t>(row)];
         double& field = column == scaletable::ColumnNumerator ? scale.numerator : scale.denominator;
@@ -225,7 +243,8 @@ void CSystemScaleDlg::onCellChanged(int row, int column, const QString& text) {
     });
 }
 
-void CSystemScaleDlg::OnOK() {
+void CSystemScaleDlg::OnOK()
+{
     guardHandler(kClass, "OnOK", [&] {
         if (m_addMode && !m_added) {
             EndDialog(framework::IDCANCEL);

@@ -9,7 +9,8 @@ namespace kesto::ui::config::scaletable {
 
 using setting::SSystemScale;
 
-SButtonStates buttonStates(bool drawingTab, bool addMode, bool rowSelected) {
+SButtonStates buttonStates(bool drawingTab, bool addMode, bool rowSelected)
+{
     SButtonStates s;
     s.addEnabled = !drawingTab;
     s.insertVisible = s.deleteVisible = !addMode;
@@ -20,11 +21,13 @@ SButtonStates buttonStates(bool drawingTab, bool addMode, bool rowSelected) {
     return s;
 }
 
-SSystemScale newScale() {
+SSystemScale newScale()
+{
     return SSystemScale{L"1/1", 1.0, 1.0};
 }
 
-std::optional<double> readCellValue(const QString& text) {
+std::optional<double> readCellValue(const QString& text)
+{
     const std::optional<double> typed = utility::parseDecimal(text);
     if (!typed)
         return std::nullopt;
@@ -34,21 +37,25 @@ std::optional<double> readCellValue(const QString& text) {
     return stored;
 }
 
-QString formatCellValue(double value) {
+QString formatCellValue(double value)
+{
     return utility::formatDecimal(value, 10);
 }
 
-QStringList rowTexts(const SSystemScale& scale) {
+QStringList rowTexts(const SSystemScale& scale)
+{
     return {QString::fromStdWString(scale.name), formatCellValue(scale.numerator),
             formatCellValue(scale.denominator)};
 }
 
-bool containsSame(const std::vector<SSystemScale>& scales, double numerator, double denominator) {
+bool containsSame(const std::vector<SSystemScale>& scales, double numerator, double denominator)
+{
     return std::any_of(scales.begin(), scales.end(),
                        [&](const SSystemScale& s) { return s.isSame(numerator, denominator); });
 }
 
-void alignNames(std::vector<SSystemScale>& scales) {
+void alignNames(std::vector<SSystemScale>& scales)
+{
     for (SSystemScale& scale : scales) {
         KsScale named;
         named.setScale(scale.numerator, scale.denominator);

@@ -39,6 +39,10 @@ bool click(ui::framework::CKsDialog& dialog, int id);
 bool isShown(ui::framework::CKsDialog& dialog, int id);
 bool isEnabled(ui::framework::CKsDialog& dialog, int id);
 
+// A double click as a platform delivers it (QTest::mouseDClick omits the second press that
+// item views need).
+void doubleClick(QWidget* widget, const QPoint& at);
+
 // A file of the shared test data (../shared/data).
 QString dataFile(const QString& relative);
 

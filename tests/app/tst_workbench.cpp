@@ -1,0 +1,203 @@
+// The workbench: settings kept in its folder across restarts, unreadable files set aside,
+// drawings opened from files, and dialogs rendered to PNG without a display.
+#include "support/TestSupport.h"
+
+#include "DrawingFile.h"
+#include "Screenshots.h"
+#include "Session.h"
+
+#include "control/KsListCtrl.h"
+#include "framework/ModalHook.h"
+#include "setting/SystemScaleSetting.h"
+#include "types/KsLayer.h"
+#include "types/KsScale.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QTest>
+
+using namespace kesto;
+using namespace kesto::workbench;
+using ui::framework::CKsDialog;
+using ui::framework::ScopedModalDrivers;
+using ui::setting::CSystemScaleSetting;
+
+namespace {
+
+QString sampleDrawing()
+{
+    return QStringLiteral(KS_SOURCE_DIR "/app/samples/civil-sample.xml");
+}
+
+struct Workbench {
+    std::shared_ptr<core::CSystemConfig> config = std::make_shared<core::CSystemConfig>();
+    Session session;
+    std::vector<SettingsStore::Problem> problems;
+
+    explicit Workbench(const QString& folder)
+        : session(allTopics(), config, SettingsStore(folder))
+    {
+        config->setSettingFolder(folder.toStdWString());
+        core::Application::getInstance()->setSystemConfig(config);
+        problems = session.load();
+    }
+    ~Workbench() { core::Application::getInstance()->setSystemConfig(nullptr); }
+
+    const Topic& scaleTopic() const { return *session.findTopic(QStringLiteral("system-scale")); }
+    CSystemScaleSetting& scales() const { return *config->getSetting<CSystemScaleSetting>(); }
+};
+
+QStringList scaleNames(const CSystemScaleSetting& setting)
+{
+    QStringList out;
+    for (const auto& s : setting.getSystemScales())
+        out << QString::fromStdWString(s.name);
+    return out;
+}
+
+void addScaleOf300(CKsDialog& d)
+{
+    QVERIFY(test::click(d, 7501));
+    auto* list = d.dlgItem<ui::control::CKsListCtrl>(7062);
+    list->commitCellText(list->getRowCount() - 1, 2, QStringLiteral("300"));
+    QVERIFY(test::click(d, 1));
+}
+
+QByteArray readAll(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+class TestWorkbench : public QObject {
+    Q_OBJECT
+
+private slots:
+    void confirmedScalesSurviveARestartAndCancelWritesNothing()
+    {
+        test::HostFixture host;
+        const QString file = host.path(QStringLiteral("SystemScaleSetting.xml"));
+        {
+            Workbench bench(host.folder());
+            QVERIFY(bench.problems.empty());
+            QVERIFY(bench.scales().isSame(CSystemScaleSetting::makeDefault()));
+            ScopedModalDrivers drivers([](CKsDialog& d) { QTest::keyClick(&d, Qt::Key_Escape); });
+            bool changed = true;
+            QString error;
+            QVERIFY(bench.session.openTopic(bench.scaleTopic(), &changed, &error));
+            QVERIFY(!changed);
+            QVERIFY(!QFile::exists(file));
+
+            drivers.add(addScaleOf300);
+            QVERIFY(bench.session.openTopic(bench.scaleTopic(), &changed, &error));
+            QVERIFY(changed);
+            QVERIFY(QFile::exists(file));
+        }
+        Workbench restarted(host.folder());
+        QCOMPARE(scaleNames(restarted.scales()).last(), QStringLiteral("1/300"));
+    }
+
+    void anUnreadableSettingsFileIsSetAsideAndReported()
+    {
+        test::HostFixture host;
+        const QString file = host.path(QStringLiteral("SystemScaleSetting.xml"));
+        const QByteArray broken("<SystemScaleSetting><Scale numerator=\"1\" denomin");
+        {
+            QFile out(file);
+            QVERIFY(out.open(QIODevice::WriteOnly));
+            out.write(broken);
+        }
+        Workbench bench(host.folder());
+        QCOMPARE(bench.problems.size(), std::size_t(1));
+        const SettingsStore::Problem& problem = bench.problems.front();
+        QCOMPARE(problem.file, file);
+        QVERIFY(!problem.reason.isEmpty());
+        QVERIFY(problem.backup.startsWith(file + QStringLiteral(".broken-")));
+        QCOMPARE(readAll(problem.backup), broken);
+        QVERIFY(!QFile::exists(file));
+        QVERIFY(bench.scales().isSame(CSystemScaleSetting::makeDefault()));
+
+        ScopedModalDrivers drivers(addScaleOf300);
+        bool changed = false;
+        QString error;
+        QVERIFY(bench.session.openTopic(bench.scaleTopic(), &changed, &error));
+        QCOMPARE(readAll(problem.backup), broken); // the backup is never written over
+        QVERIFY(QFile::exists(file));
+    }
+
+    void theSampleDrawingOpensWithItsScalesAndLayers()
+    {
+        QString error;
+        const auto db = openDrawing(sampleDrawing(), &error);
+        QVERIFY2(db, qPrintable(error));
+        QCOMPARE(QString::fromStdWString(db->getTitle()), QStringLiteral("道路改良平面図"));
+        const auto scales = db->elementsOf<KsScale>(L"SCALE");
+        QCOMPARE(scales.size(), std::size_t(6));
+        QVERIFY(scales[3]->getName() == L"横断 1/200");
+        QCOMPARE(scales[3]->getDenominator(), 200.0);
+        const auto layers = db->elementsOf<KsLayer>(L"LAYER");
+        QCOMPARE(layers.size(), std::size_t(5));
+        QVERIFY(!layers[4]->isVisible());
+        QCOMPARE(layers[1]->getColor().getRGB(), 0xFF0000u);
+    }
+
+    void badDrawingFilesAreRefusedWithAReason_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("not xml") << "a.xml" << QByteArray("SECTION") << "line 1";
+        QTest::newRow("other root") << "b.xml" << QByteArray("<layers/>") << "<drawing>";
+        QTest::newRow("zero scale")
+            << "c.xml"
+            << QByteArray("<drawing><scale numerator=\"1\" denominator=\"0\"/></drawing>")
+            << "greater than zero";
+        QTest::newRow("nameless layer")
+            << "d.xml" << QByteArray("<drawing><layer/></drawing>") << "needs a name";
+        QTest::newRow("unknown format")
+            << "e.dwg" << QByteArray("AC1027") << "unknown drawing format";
+    }
+    void badDrawingFilesAreRefusedWithAReason()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, content);
+        QFETCH(QString, reason);
+        test::HostFixture host;
+        const QString path = host.path(name);
+        QFile out(path);
+        QVERIFY(out.open(QIODevice::WriteOnly));
+        out.write(content);
+        out.close();
+        QString error;
+        QVERIFY(!openDrawing(path, &error));
+        QVERIFY2(error.contains(reason), qPrintable(error));
+        QVERIFY(error.contains(path));
+        QVERIFY(!openDrawing(host.path(QStringLiteral("none.xml")), &error));
+        QVERIFY(error.contains(QStringLiteral("no such file")));
+    }
+
+    void everyDialogIsRenderedWithItsTitleBar()
+    {
+        test::HostFixture host;
+        Workbench bench(host.folder());
+        QString error;
+        QVERIFY(bench.session.openDrawing(sampleDrawing(), &error));
+        const QString dir = host.path(QStringLiteral("shots"));
+        const QStringList files = renderTopicScreenshots(bench.session, dir, &error);
+        QVERIFY(error.isEmpty());
+        QVERIFY(files.contains(QDir(dir).filePath(QStringLiteral("system-scale.png"))));
+        QVERIFY(files.contains(QDir(dir).filePath(QStringLiteral("system-scale-drawing.png"))));
+        for (const QString& file : files) {
+            const QImage image(file);
+            QVERIFY2(!image.isNull(), qPrintable(file));
+            QVERIFY(image.width() > 200 && image.height() > 200);
+        }
+        QVERIFY(!QFile::exists(host.path(QStringLiteral("SystemScaleSetting.xml"))));
+    }
+};
+
+QTEST_MAIN(TestWorkbench)
+#include "tst_workbench.moc"

@@ -1,0 +1,224 @@
+// The dialog framework: resource chain and switch, string look-up and formatting, dialogs
+// built from layouts, the modal seam and the message box seam.
+#include "support/TestSupport.h"
+
+#include "framework/MessageBox.h"
+#include "framework/ModalHook.h"
+#include "framework/Resources.h"
+
+#include <QPushButton>
+#include <QTest>
+#include <QVBoxLayout>
+
+using namespace kesto::ui::framework;
+
+namespace {
+
+constexpr int kTemplate = 99001;
+
+void buildTestLayout(QDialog* dialog)
+{
+    dialog->setWindowTitle(QStringLiteral("テスト"));
+    auto* layout = new QVBoxLayout(dialog);
+    for (auto [id, text] : {std::pair{1, "OK"}, {2, "キャンセル"}, {4242, "押す"}}) {
+        auto* button = new QPushButton(QString::fromUtf8(text), dialog);
+        setCtrlId(button, id);
+        layout->addWidget(button);
+    }
+}
+
+// A module of the test's own, on the chain for the test's lifetime.
+struct TestModule {
+    ResourceModule module{QStringLiteral("test")};
+    TestModule()
+    {
+        static const StringEntry strings[] = {{1, "一"}, {2, "二"}};
+        module.addStrings(strings, 2);
+        module.addLayout(kTemplate, &buildTestLayout);
+        ResourceChain::instance().add(&module);
+    }
+    ~TestModule() { ResourceChain::instance().remove(&module); }
+};
+
+class CountingDialog : public CKsDialog {
+public:
+    CountingDialog()
+        : CKsDialog(kTemplate)
+    {
+        onClicked(4242, [this] { ++pressed; });
+    }
+    int inits = 0;
+    int cancels = 0;
+    int pressed = 0;
+
+protected:
+    bool OnInitDialog() override
+    {
+        ++inits;
+        return true;
+    }
+    void OnCancel() override
+    {
+        ++cancels;
+        CKsDialog::OnCancel();
+    }
+};
+
+} // namespace
+
+class TestFramework : public QObject {
+    Q_OBJECT
+
+private slots:
+    void stringsResolveCurrentModuleFirstThenTheChain()
+    {
+        TestModule first;
+        ResourceModule second(QStringLiteral("second"));
+        static const StringEntry secondStrings[] = {{1, "いち"}, {3, "三"}};
+        QVERIFY(second.addStrings(secondStrings, 2));
+        QVERIFY(ResourceChain::instance().add(&second));
+        QVERIFY(!ResourceChain::instance().add(&second));
+
+        QCOMPARE(loadString(1), QStringLiteral("一"));
+        QCOMPARE(loadString(3), QStringLiteral("三"));
+        {
+            ResourceSwitch use(&second);
+            QCOMPARE(loadString(1), QStringLiteral("いち"));
+            QCOMPARE(loadString(2), QStringLiteral("二"));
+        }
+        QCOMPARE(loadString(1), QStringLiteral("一"));
+        QCOMPARE(loadString(31999), QStringLiteral("Couldn't find Resource(id = 31999)."));
+        QVERIFY(!hasString(31999));
+        ResourceChain::instance().remove(&second);
+    }
+
+    void aModuleRefusesAClashingTable()
+    {
+        ResourceModule module(QStringLiteral("m"));
+        static const StringEntry a[] = {{5, "a"}};
+        static const StringEntry clash[] = {{6, "b"}, {5, "c"}};
+        QVERIFY(module.addStrings(a, 1));
+        QVERIFY(!module.addStrings(clash, 2));
+        QVERIFY(!module.findString(6)); // nothing of the refused table was taken
+        QCOMPARE(*module.findString(5), QStringLiteral("a"));
+        QVERIFY(module.addLayout(1, &buildTestLayout));
+        QVERIFY(!module.addLayout(1, &buildTestLayout));
+    }
+
+    void resourceSwitchRestoresOnEveryPath()
+    {
+        ResourceModule a(QStringLiteral("a"));
+        ResourceModule b(QStringLiteral("b"));
+        ResourceChain::instance().setCurrent(&a);
+        try {
+            ResourceSwitch use(&b);
+            QCOMPARE(ResourceChain::instance().current(), &b);
+            throw std::runtime_error("dialog failed");
+        } catch (const std::runtime_error&) {
+        }
+        QCOMPARE(ResourceChain::instance().current(), &a);
+        {
+            ResourceSwitch use(&b);
+            use.restore();
+            QCOMPARE(ResourceChain::instance().current(), &a);
+            ResourceChain::instance().setCurrent(&b);
+        } // a second restore does nothing
+        QCOMPARE(ResourceChain::instance().current(), &b);
+        ResourceChain::instance().setCurrent(nullptr);
+    }
+
+    void formatTextFillsConversionsInOrderAndNeverInterpretsArguments()
+    {
+        QCOMPARE(formatText(QStringLiteral("%d 行目\n名称が重複しています\n重複名：%s"),
+                            {3, QStringLiteral("A-1")}),
+                 QStringLiteral("3 行目\n名称が重複しています\n重複名：A-1"));
+        QCOMPARE(formatText(QStringLiteral("%s と %d"), {QStringLiteral("%d%s"), 7}),
+                 QStringLiteral("%d%s と 7"));
+        QCOMPARE(formatText(QStringLiteral("100%% %d"), {1}), QStringLiteral("100% 1"));
+        QCOMPARE(formatText(QStringLiteral("%d %d"), {1}), QStringLiteral("1 "));
+        QCOMPARE(formatText(QStringLiteral("末尾%"), {}), QStringLiteral("末尾%"));
+    }
+
+    void dialogIsBuiltFromTheChainAndFindsControlsByNumber()
+    {
+        TestModule module;
+        CountingDialog dialog;
+        QVERIFY(dialog.hasLayout());
+        QCOMPARE(dialog.windowTitle(), QStringLiteral("テスト"));
+        QCOMPARE(dialog.dlgItem<QPushButton>(2)->text(), QStringLiteral("キャンセル"));
+        QVERIFY(!dialog.GetDlgItem(777));
+        QVERIFY(!dialog.dlgItem<QDialog>(4242)); // wrong class
+    }
+
+    void aMissingLayoutFailsTheModalRun()
+    {
+        kesto::test::HostFixture host;
+        CKsDialog dialog(31998);
+        QVERIFY(!dialog.hasLayout());
+        QCOMPARE(dialog.DoModal(), int(IDFAILED));
+        QVERIFY(host.log().contains(
+            kesto::core::LogLevel::Error,
+            QStringLiteral("dialog layout 31998 not found in the resource chain")));
+    }
+
+    void queuedDriversRunInOrderAndInitialiseOnce()
+    {
+        TestModule module;
+        ScopedModalDrivers drivers;
+        drivers.add([](CKsDialog& d) {
+            QVERIFY(kesto::test::click(d, 4242));
+            QVERIFY(kesto::test::click(d, 1));
+        });
+        drivers.add([](CKsDialog& d) { QTest::keyClick(&d, Qt::Key_Escape); });
+        CountingDialog dialog;
+        QCOMPARE(dialog.DoModal(), int(IDOK));
+        QCOMPARE(dialog.pressed, 1);
+        QCOMPARE(dialog.DoModal(), int(IDCANCEL));
+        QCOMPARE(dialog.cancels, 1);
+        QCOMPARE(dialog.inits, 1);
+        QCOMPARE(drivers.pending(), std::size_t(0));
+    }
+
+    void aDriverThatLeavesTheDialogOpenCancelsIt()
+    {
+        TestModule module;
+        ScopedModalDrivers drivers([](CKsDialog&) {});
+        CountingDialog dialog;
+        QCOMPARE(dialog.DoModal(), int(IDCANCEL));
+        QCOMPARE(dialog.cancels, 1);
+        QVERIFY(!dialog.isVisible());
+    }
+
+    void messageBoxesAreRecordedAndAnswered()
+    {
+        MessageBoxRecorder recorder;
+        recorder.answerNext(IDCANCEL);
+        QCOMPARE(MessageBox(nullptr, QStringLiteral("本文"), QStringLiteral("題"), MB_OKCANCEL),
+                 int(IDCANCEL));
+        QCOMPARE(MessageBox(nullptr, QStringLiteral("二"), QStringLiteral("題"), MB_YESNO),
+                 int(IDYES));
+        QCOMPARE(MessageBox(nullptr, QStringLiteral("三"), QString()), int(IDOK));
+        QCOMPARE(recorder.count(), std::size_t(3));
+        QCOMPARE(recorder.shown()[0].text, QStringLiteral("本文"));
+        QCOMPARE(recorder.shown()[0].caption, QStringLiteral("題"));
+        QCOMPARE(recorder.shown()[0].type, unsigned(MB_OKCANCEL));
+    }
+
+    void handlerExceptionsAreLoggedAndRethrown();
+};
+
+#include "framework/HandlerGuard.h"
+
+void TestFramework::handlerExceptionsAreLoggedAndRethrown()
+{
+    kesto::test::HostFixture host;
+    QVERIFY_THROWS_EXCEPTION(std::runtime_error, guardHandler("CTestDlg", "OnOK", [] {
+                                 throw std::runtime_error("x");
+                             }));
+    QVERIFY(host.log().contains(kesto::core::LogLevel::Error,
+                                QStringLiteral("CTestDlg: OnOK() catch ...")));
+    QCOMPARE(guardHandler("CTestDlg", "OnOK", [] { return 5; }), 5);
+}
+
+QTEST_MAIN(TestFramework)
+#include "tst_framework.moc"

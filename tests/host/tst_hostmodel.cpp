@@ -1,0 +1,256 @@
+// The host's model: value types, the scale setting and its file, the XML loader's defences,
+// the in-memory drawing, and the application services.
+#include "support/TestSupport.h"
+
+#include "core/DialogRegistry.h"
+#include "db/MemoryDataBase.h"
+#include "observer/Subject.h"
+#include "setting/SystemScaleSetting.h"
+#include "types/KsLayer.h"
+#include "types/KsScale.h"
+#include "utility/NumberFormat.h"
+#include "utility/Xml.h"
+
+#include <QFile>
+#include <QTest>
+
+using namespace kesto;
+using ui::setting::CSystemScaleSetting;
+using ui::setting::SSystemScale;
+
+namespace {
+
+QByteArray readAll(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool writeAll(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+CSystemScaleSetting twoScales()
+{
+    CSystemScaleSetting setting;
+    setting.setSystemScales({{L"1/100", 1, 100}, {L"詳細 1/2.5", 1, 2.5}});
+    return setting;
+}
+
+} // namespace
+
+class TestHostModel : public QObject {
+    Q_OBJECT
+
+private slots:
+    void scaleNamesFollowTheirValues_data()
+    {
+        QTest::addColumn<double>("numerator");
+        QTest::addColumn<double>("denominator");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("reduction") << 1.0 << 100.0 << "1/100";
+        QTest::newRow("enlargement") << 2.0 << 1.0 << "2/1";
+        QTest::newRow("decimal") << 1.0 << 2.5 << "1/2.5";
+        QTest::newRow("six decimals") << 1.0 << 3.1234567 << "1/3.123457";
+        QTest::newRow("tiny") << 0.000001 << 1.0 << "0.000001/1";
+    }
+    void scaleNamesFollowTheirValues()
+    {
+        QFETCH(double, numerator);
+        QFETCH(double, denominator);
+        QFETCH(QString, name);
+        KsScale scale(L"old", 1, 1);
+        scale.setScale(numerator, denominator);
+        QCOMPARE(QString::fromStdWString(scale.getName()), name);
+        QCOMPARE(scale.getDenominator(), denominator);
+    }
+
+    void numbersAreFormattedAndReadAsUsersType()
+    {
+        using namespace utility;
+        QCOMPARE(formatDecimal(1.5, 10), QStringLiteral("1.5"));
+        QCOMPARE(formatDecimal(100, 10), QStringLiteral("100"));
+        QCOMPARE(formatDecimal(-0.0000001, 3), QStringLiteral("0"));
+        QCOMPARE(parseDecimal(QStringLiteral(" １２．５ ")).value(), 12.5);
+        QCOMPARE(parseDecimal(QStringLiteral("－3")).value(), -3.0);
+        QVERIFY(!parseDecimal(QStringLiteral("1/100")));
+        QVERIFY(!parseDecimal(QStringLiteral("")));
+        QVERIFY(!parseDecimal(QStringLiteral("inf")));
+        QCOMPARE(roundToDecimals(1.23456789, 6), 1.234568);
+    }
+
+    void systemScalesCompareToSixDecimals()
+    {
+        const SSystemScale scale{L"1/3", 1.0, 3.0};
+        QVERIFY(scale.isSame(1.0, 3.0000004));
+        QVERIFY(!scale.isSame(1.0, 3.000001));
+        QVERIFY(!scale.isSame(3.0, 1.0));
+        const CSystemScaleSetting defaults = CSystemScaleSetting::makeDefault();
+        QVERIFY(defaults.getSystemScales().size() >= 11);
+        QCOMPARE(QString::fromStdWString(defaults.getSystemScales()[6].name),
+                 QStringLiteral("1/100"));
+    }
+
+    void scaleSettingRoundTripsThroughItsFile()
+    {
+        test::HostFixture host;
+        const QString path = host.path(QStringLiteral("scales.xml"));
+        QVERIFY(twoScales().saveXML(path.toStdWString()));
+        CSystemScaleSetting loaded;
+        QVERIFY(loaded.loadXML(path.toStdWString()));
+        QVERIFY(loaded.isSame(twoScales()));
+        QVERIFY(readAll(path).startsWith("<?xml version=\"1.0\" encoding=\"UTF-8\"?>"));
+    }
+
+    void malformedScaleFilesChangeNothing_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("not xml") << QByteArray("scales: 1/100");
+        QTest::newRow("truncated") << QByteArray("<SystemScaleSetting><Scale numerator=\"1\" den");
+        QTest::newRow("wrong root")
+            << QByteArray("<Other><Scale numerator=\"1\" denominator=\"2\"/></Other>");
+        QTest::newRow("zero denominator") << QByteArray(
+            "<SystemScaleSetting><Scale numerator=\"1\" denominator=\"0\"/></SystemScaleSetting>");
+        QTest::newRow("missing numerator")
+            << QByteArray("<SystemScaleSetting><Scale denominator=\"5\"/></SystemScaleSetting>");
+        QTest::newRow("text value") << QByteArray(
+            "<SystemScaleSetting><Scale numerator=\"一\" denominator=\"5\"/></SystemScaleSetting>");
+        QTest::newRow("entities") << QByteArray(
+            "<!DOCTYPE r [<!ENTITY a \"aaaaaaaa\">]><SystemScaleSetting><Scale "
+            "name=\"&a;\" numerator=\"1\" denominator=\"2\"/></SystemScaleSetting>");
+        QTest::newRow("empty") << QByteArray();
+    }
+    void malformedScaleFilesChangeNothing()
+    {
+        QFETCH(QByteArray, content);
+        test::HostFixture host;
+        const QString path = host.path(QStringLiteral("bad.xml"));
+        QVERIFY(writeAll(path, content));
+        CSystemScaleSetting setting = twoScales();
+        QString error;
+        QVERIFY(!setting.loadXML(path.toStdWString(), &error));
+        QVERIFY(!error.isEmpty());
+        QVERIFY(setting.isSame(twoScales()));
+        QCOMPARE(readAll(path), content);
+    }
+
+    void oversizedFilesAreRefusedBeforeReading()
+    {
+        test::HostFixture host;
+        const QString path = host.path(QStringLiteral("huge.xml"));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(file.resize(utility::xml::kMaxDocumentBytes + 1)); // sparse
+        file.close();
+        QDomDocument doc;
+        QString error;
+        QVERIFY(!utility::xml::load(doc, path.toStdWString(), &error));
+        QVERIFY(error.contains(QStringLiteral("larger than")));
+    }
+
+    void savingIntoAMissingFolderFailsWithAReason()
+    {
+        test::HostFixture host;
+        QString error;
+        QVERIFY(!twoScales().saveXML(host.path(QStringLiteral("missing/dir/s.xml")).toStdWString(),
+                                     &error));
+        QVERIFY(!error.isEmpty());
+        QVERIFY(!QFile::exists(host.path(QStringLiteral("missing"))));
+    }
+
+    void memoryDrawingListsElementsByType()
+    {
+        CMemoryDataBase db(L"図面");
+        db.add<KsScale>(1.0, 100.0);
+        db.add<KsLayer>(L"構造物");
+        auto* second = db.add<KsScale>(1.0, 50.0);
+        QCOMPARE(db.countElements(L"SCALE"), std::size_t(2));
+        const auto scales = db.elementsOf<KsScale>(L"SCALE");
+        QCOMPARE(scales.size(), std::size_t(2));
+        QCOMPARE(scales[1], second);
+        QVERIFY(db.elementsOf<KsLayer>(L"SCALE").empty());
+        int visited = 0;
+        db.forEachElement([&](KsObject&) { ++visited; });
+        QCOMPARE(visited, 3);
+        QVERIFY(db.removeElement(second));
+        QVERIFY(!db.removeElement(second));
+        QCOMPARE(db.countElements(L"SCALE"), std::size_t(1));
+        QCOMPARE(db.countElements(L"NONE"), std::size_t(0));
+    }
+
+    void observersDetachedDuringNotificationAreSkipped()
+    {
+        struct Counter : IObserver {
+            Subject* subject = nullptr;
+            IObserver* toDetach = nullptr;
+            int calls = 0;
+            void update(Subject*, int, void*) override
+            {
+                ++calls;
+                if (toDetach)
+                    subject->detach(toDetach);
+            }
+        };
+        Subject subject;
+        Counter first;
+        Counter second;
+        first.subject = &subject;
+        first.toDetach = &second;
+        subject.attach(&first);
+        subject.attach(&first);
+        subject.attach(&second);
+        subject.notify(0);
+        QCOMPARE(first.calls, 1);
+        QCOMPARE(second.calls, 0);
+    }
+
+    void settingsHolderKeepsOneSettingPerClass()
+    {
+        core::CSystemConfig config;
+        config.setSettingFolder(L"/tmp/a");
+        QCOMPARE(QString::fromStdWString(config.getSettingFolder()), QStringLiteral("/tmp/a/"));
+        config.putSetting(std::make_unique<CSystemScaleSetting>());
+        config.putSetting(std::make_unique<CSystemScaleSetting>(twoScales()));
+        QCOMPARE(config.settings().size(), std::size_t(1));
+        QVERIFY(config.getSetting<CSystemScaleSetting>()->isSame(twoScales()));
+        QVERIFY(!config.hasCurrentDrawing());
+    }
+
+    void placementsAreStoredPerKey()
+    {
+        test::HostFixture host;
+        core::PlacementStore& store = core::Application::getInstance()->placements();
+        QWidget window;
+        window.resize(321, 234);
+        store.savePlacement(QStringLiteral("SystemPaperSizeDlg"), &window);
+        store.writeInt(QStringLiteral("SystemPaperSizeDlg"), QStringLiteral("head0"), 140);
+        QWidget other;
+        QVERIFY(store.restorePlacement(QStringLiteral("SystemPaperSizeDlg"), &other));
+        QCOMPARE(other.size(), QSize(321, 234));
+        QVERIFY(!store.restorePlacement(QStringLiteral("Unknown"), &other));
+        QCOMPARE(store.readInt(QStringLiteral("SystemPaperSizeDlg"), QStringLiteral("head0"), 100),
+                 140);
+        QCOMPARE(store.readInt(QStringLiteral("SystemPaperSizeDlg"), QStringLiteral("head1"), 100),
+                 100);
+    }
+
+    void openDialogsAnnounceThemselves()
+    {
+        core::DialogRegistry registry;
+        auto* dialog = new QWidget;
+        registry.announce(QStringLiteral("MouseDlg"), dialog);
+        QCOMPARE(registry.find(QStringLiteral("MouseDlg")), dialog);
+        QCOMPARE(registry.openNames(), QStringList{QStringLiteral("MouseDlg")});
+        delete dialog;
+        QVERIFY(!registry.find(QStringLiteral("MouseDlg")));
+        QWidget second;
+        registry.announce(QStringLiteral("LayoutSettingDlg"), &second);
+        registry.withdraw(QStringLiteral("LayoutSettingDlg"), &second);
+        QVERIFY(registry.openNames().isEmpty());
+    }
+};
+
+QTEST_MAIN(TestHostModel)
+#include "tst_hostmodel.moc"

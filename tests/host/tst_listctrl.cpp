@@ -1,0 +1,282 @@
+// The shared grid: rows, cells, user edits reported as observer events, selection, search,
+// and a list of 100,000 rows.
+#include "support/TestSupport.h"
+
+#include "control/KsListCtrl.h"
+#include "framework/ColorChooser.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QTest>
+
+using namespace kesto::ui::control;
+
+namespace {
+
+struct Recorder : kesto::IObserver {
+    struct Entry {
+        int event;
+        SListCellEvent cell;
+    };
+    std::vector<Entry> entries;
+    void update(kesto::Subject*, int event, void* data) override
+    {
+        SListCellEvent cell;
+        if (event == LIST_EVENT_CELL_CHANGED && data)
+            cell = *static_cast<SListCellEvent*>(data);
+        entries.push_back({event, cell});
+    }
+    std::vector<SListCellEvent> cellChanges() const
+    {
+        std::vector<SListCellEvent> out;
+        for (const Entry& e : entries) {
+            if (e.event == LIST_EVENT_CELL_CHANGED)
+                out.push_back(e.cell);
+        }
+        return out;
+    }
+};
+
+void addThreeColumns(CKsListCtrl& list)
+{
+    list.addColumn(QStringLiteral("名称"), 100);
+    list.addColumn(QStringLiteral("表示"), 60, EColumnType::Combo);
+    list.setColumnItems(1, {QStringLiteral("○"), QStringLiteral("×")});
+    list.addColumn(QStringLiteral("色"), 60, EColumnType::Color);
+}
+
+QStringList column0(const CKsListCtrl& list)
+{
+    QStringList texts;
+    for (int r = 0; r < list.getRowCount(); ++r)
+        texts << list.getCellText(r, 0);
+    return texts;
+}
+
+} // namespace
+
+class TestListCtrl : public QObject {
+    Q_OBJECT
+
+private slots:
+    void rowsAreAddedInsertedRemovedAndMoved()
+    {
+        CKsListCtrl list;
+        addThreeColumns(list);
+        list.addRow({QStringLiteral("A")});
+        list.addRow({QStringLiteral("C")});
+        list.insertRow(1, SListRow({QStringLiteral("B")}));
+        QCOMPARE(column0(list), QStringList({"A", "B", "C"}));
+        QCOMPARE(list.getRow(0).cells.size(), std::size_t(3)); // short rows get every column
+
+        QVERIFY(list.moveRow(0, 2));
+        QCOMPARE(column0(list), QStringList({"B", "C", "A"}));
+        QVERIFY(list.moveRow(2, 0));
+        QCOMPARE(column0(list), QStringList({"A", "B", "C"}));
+        QVERIFY(list.swapRows(0, 2));
+        QCOMPARE(column0(list), QStringList({"C", "B", "A"}));
+        QVERIFY(list.swapRows(1, 0));
+        QCOMPARE(column0(list), QStringList({"B", "C", "A"}));
+
+        QVERIFY(!list.moveRow(0, 3));
+        QVERIFY(!list.removeRow(3));
+        QVERIFY(list.removeRow(1));
+        QCOMPARE(column0(list), QStringList({"B", "A"}));
+        QCOMPARE(list.getCellText(5, 0), QString());
+        list.removeAllRows();
+        QCOMPARE(list.getRowCount(), 0);
+    }
+
+    void findsRowsByCellTextAndByData()
+    {
+        CKsListCtrl list;
+        addThreeColumns(list);
+        list.addRow({QStringLiteral("道路"), QStringLiteral("○")}, 10);
+        list.addRow({QStringLiteral("河川"), QStringLiteral("×")}, 20);
+        list.addRow({QStringLiteral("道路"), QStringLiteral("×")}, 30);
+        QCOMPARE(list.findRow(0, QStringLiteral("道路")), 0);
+        QCOMPARE(list.findRow(0, QStringLiteral("道路"), 1), 2);
+        QCOMPARE(list.findRow(1, QStringLiteral("×")), 1);
+        QCOMPARE(list.findRow(0, QStringLiteral("道")), -1); // exact text only
+        QCOMPARE(list.findRow(7, QStringLiteral("道路")), -1);
+        QCOMPARE(list.findRowByData(30), 2);
+        QCOMPARE(list.findRowByData(99), -1);
+    }
+
+    void userEditsAreReportedAfterTheyAreStored()
+    {
+        CKsListCtrl list;
+        addThreeColumns(list);
+        list.addRow({QStringLiteral("A"), QStringLiteral("○")});
+        Recorder recorder;
+        list.attach(&recorder);
+        QString storedWhenNotified;
+        struct Peek : kesto::IObserver {
+            CKsListCtrl* list;
+            QString* seen;
+            void update(kesto::Subject*, int event, void*) override
+            {
+                if (event == LIST_EVENT_CELL_CHANGED)
+                    *seen = list->getCellText(0, 0);
+            }
+        } peek;
+        peek.list = &list;
+        peek.seen = &storedWhenNotified;
+        list.attach(&peek);
+
+        QVERIFY(list.commitCellText(0, 0, QStringLiteral("B")));
+        QCOMPARE(storedWhenNotified, QStringLiteral("B"));
+        const auto changes = recorder.cellChanges();
+        QCOMPARE(changes.size(), std::size_t(1));
+        QCOMPARE(changes[0].row, 0);
+        QCOMPARE(changes[0].column, 0);
+        QCOMPARE(changes[0].text, QStringLiteral("B"));
+
+        QVERIFY(!list.commitCellText(0, 0, QStringLiteral("B"))); // unchanged: no event
+        list.setCellText(0, 0, QStringLiteral("C"));              // by the owner: no event
+        QCOMPARE(recorder.cellChanges().size(), std::size_t(1));
+        list.detach(&peek);
+        list.detach(&recorder);
+    }
+
+    void lockedCellsAndReadOnlyListsRefuseEdits()
+    {
+        CKsListCtrl list;
+        list.addColumn(QStringLiteral("名称"), 100);
+        list.addColumn(QStringLiteral("固定"), 100, EColumnType::Text, Qt::AlignLeft, false);
+        list.addRow({QStringLiteral("A"), QStringLiteral("x")});
+        list.addRow({QStringLiteral("B"), QStringLiteral("y")});
+        Recorder recorder;
+        list.attach(&recorder);
+        list.setCellEditable(0, 0, false);
+        QVERIFY(!list.commitCellText(0, 0, QStringLiteral("Z")));
+        QVERIFY(!list.commitCellText(1, 1, QStringLiteral("Z")));
+        QVERIFY(!(list.model()->flags(list.model()->index(1, 1)) & Qt::ItemIsEditable));
+        list.setEditable(false);
+        QVERIFY(!list.commitCellText(1, 0, QStringLiteral("Z")));
+        QCOMPARE(list.getCellText(0, 0), QStringLiteral("A"));
+        QCOMPARE(list.getCellText(1, 0), QStringLiteral("B"));
+        QVERIFY(recorder.entries.empty());
+        list.setEditable(true);
+        QVERIFY(list.commitCellText(1, 0, QStringLiteral("Z")));
+        list.detach(&recorder);
+    }
+
+    void textCellIsEditedInPlace()
+    {
+        CKsListCtrl list;
+        addThreeColumns(list);
+        list.addRow({QStringLiteral("A")});
+        list.show();
+        Recorder recorder;
+        list.attach(&recorder);
+        list.setCurrentIndex(list.model()->index(0, 0));
+        list.edit(list.model()->index(0, 0));
+        auto* editor = list.findChild<QLineEdit*>();
+        QVERIFY(editor);
+        editor->setText(QStringLiteral("橋梁"));
+        QTest::keyClick(editor, Qt::Key_Return);
+        QTRY_COMPARE(list.getCellText(0, 0), QStringLiteral("橋梁"));
+        QCOMPARE(recorder.cellChanges().size(), std::size_t(1));
+        list.detach(&recorder);
+    }
+
+    void comboCellCommitsTheChosenItem()
+    {
+        CKsListCtrl list;
+        addThreeColumns(list);
+        list.addRow({QStringLiteral("A"), QStringLiteral("○")});
+        list.show();
+        Recorder recorder;
+        list.attach(&recorder);
+        list.edit(list.model()->index(0, 1));
+        auto* box = list.findChild<QComboBox*>();
+        QVERIFY(box);
+        QCOMPARE(box->count(), 2);
+        QCOMPARE(box->currentText(), QStringLiteral("○"));
+        box->setCurrentIndex(1);
+        emit box->activated(1);
+        QTRY_COMPARE(list.getCellText(0, 1), QStringLiteral("×"));
+        QCOMPARE(recorder.cellChanges().size(), std::size_t(1));
+        QCOMPARE(recorder.cellChanges()[0].column, 1);
+        list.detach(&recorder);
+    }
+
+    void colourCellOpensTheHostColourChooser()
+    {
+        using kesto::ui::framework::ColorChooserHook;
+        CKsListCtrl list;
+        addThreeColumns(list);
+        list.addRow({QStringLiteral("A"), QStringLiteral("○")});
+        list.setCellColor(0, 2, 0x0000FF);
+        list.resize(400, 200);
+        list.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&list));
+        QColor offered;
+        const auto previous = ColorChooserHook::setHandler([&](const QColor& initial) {
+            offered = initial;
+            return std::optional<QColor>(QColor(0x12, 0x34, 0x56));
+        });
+        Recorder recorder;
+        list.attach(&recorder);
+        const QRect cell = list.visualRect(list.model()->index(0, 2));
+        kesto::test::doubleClick(list.viewport(), cell.center());
+        QCOMPARE(offered, QColor(0, 0, 0xFF));
+        offered = QColor();
+        list.setCurrentIndex(list.model()->index(0, 2));
+        QTest::keyClick(&list, Qt::Key_F2); // the keyboard opens it too
+        ColorChooserHook::setHandler(previous);
+        QCOMPARE(offered, QColor(0x12, 0x34, 0x56));
+        QCOMPARE(list.getCellColor(0, 2), QRgb(0x123456));
+        const auto changes = recorder.cellChanges(); // the second choice changed nothing
+        QCOMPARE(changes.size(), std::size_t(1));
+        QCOMPARE(changes[0].color, QRgb(0x123456));
+        list.detach(&recorder);
+    }
+
+    void selectionIsReportedAndReadBack()
+    {
+        CKsListCtrl list;
+        addThreeColumns(list);
+        for (int i = 0; i < 5; ++i)
+            list.addRow({QString::number(i)});
+        Recorder recorder;
+        list.attach(&recorder);
+        QCOMPARE(list.getSelectedRow(), -1);
+        list.selectRow(3);
+        QCOMPARE(list.getSelectedRow(), 3);
+        QVERIFY(!recorder.entries.empty());
+        QCOMPARE(recorder.entries.back().event, int(LIST_EVENT_SELECTION_CHANGED));
+        list.setMultiSelect(true);
+        list.setRowsSelected({4, 1});
+        QCOMPARE(list.getSelectedRows(), std::vector<int>({1, 4}));
+        list.clearSelection();
+        QCOMPARE(list.getSelectedRow(), -1);
+        list.selectRow(9);
+        QCOMPARE(list.getSelectedRow(), -1);
+        list.detach(&recorder);
+    }
+
+    void holdsAndScrollsAHundredThousandRows()
+    {
+        CKsListCtrl list;
+        addThreeColumns(list);
+        std::vector<SListRow> rows;
+        for (int i = 0; i < 100000; ++i)
+            rows.emplace_back(QStringList{QStringLiteral("L%1").arg(i), QStringLiteral("○")});
+        list.resize(400, 300);
+        list.show();
+        list.setRows(std::move(rows));
+        QCOMPARE(list.getRowCount(), 100000);
+        QCOMPARE(list.findRow(0, QStringLiteral("L99999")), 99999);
+        list.selectRow(99999);
+        QCOMPARE(list.verticalScrollBar()->value(), list.verticalScrollBar()->maximum());
+        QVERIFY(list.indexAt(list.viewport()->rect().bottomLeft() - QPoint(-2, 2)).row() > 99900);
+        list.addRows({SListRow({QStringLiteral("last")})});
+        QCOMPARE(list.getCellText(100000, 0), QStringLiteral("last"));
+    }
+};
+
+QTEST_MAIN(TestListCtrl)
+#include "tst_listctrl.moc"

@@ -4,6 +4,7 @@
 
 #include "core/SystemConfig.h"
 
+#include <algorithm>
 #include <typeinfo>
 
 namespace kesto::workbench {
@@ -22,7 +23,10 @@ Session::~Session()
 
 std::vector<SettingsStore::Problem> Session::load()
 {
-    return m_store.loadAll(m_topics, *m_config);
+    std::vector<SettingFactory> factories = hostSettings();
+    for (const Topic& topic : m_topics)
+        factories.push_back(topic.makeDefault);
+    return m_store.loadAll(factories, *m_config);
 }
 
 const Topic* Session::findTopic(const QString& id) const
@@ -52,9 +56,19 @@ bool Session::openTopic(const Topic& topic, bool* changed, QString* error)
         *error = QStringLiteral("%1: no current setting").arg(topic.title);
         return false;
     }
+    std::vector<std::unique_ptr<ui::setting::CSettingBase>> before;
+    for (const auto& setting : m_config->settings())
+        before.push_back(setting->clone());
     const std::unique_ptr<ui::setting::CSettingBase> defaults = topic.makeDefault();
     *changed = topic.open(*current, *defaults);
-    return !*changed || m_store.save(*current, error);
+    bool saved = true;
+    for (const auto& setting : m_config->settings()) {
+        const bool unchanged = std::any_of(before.begin(), before.end(),
+                                           [&](const auto& old) { return setting->equals(*old); });
+        if (!unchanged)
+            saved = m_store.save(*setting, error) && saved;
+    }
+    return saved;
 }
 
 bool Session::openDrawing(const QString& path, QString* error)

@@ -31,8 +31,9 @@ public:
     ui::setting::CSettingBase* currentSetting(const Topic& topic) const;
     const SettingsStore& store() const { return m_store; }
 
-    // Runs the topic's dialog; a confirmed change is saved. False with error set when the
-    // change could not be saved (it stays in memory).
+    // Runs the topic's dialog; every setting it changed (its own, and host tables such as the
+    // custom colours) is saved. False with error set when a change could not be saved (it
+    // stays in memory).
     bool openTopic(const Topic& topic, bool* changed, QString* error);
 
     bool openDrawing(const QString& path, QString* error);

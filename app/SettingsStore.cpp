@@ -18,18 +18,18 @@ QString SettingsStore::fileOf(const ui::setting::CSettingBase& setting) const
     return QDir(m_folder).filePath(setting.xmlRootName() + QStringLiteral(".xml"));
 }
 
-std::vector<SettingsStore::Problem> SettingsStore::loadAll(const std::vector<Topic>& topics,
-                                                           core::CSystemConfig& config)
+std::vector<SettingsStore::Problem>
+SettingsStore::loadAll(const std::vector<SettingFactory>& factories, core::CSystemConfig& config)
 {
     std::vector<Problem> problems;
-    for (const Topic& topic : topics) {
-        std::unique_ptr<ui::setting::CSettingBase> setting = topic.makeDefault();
+    for (const SettingFactory& makeDefault : factories) {
+        std::unique_ptr<ui::setting::CSettingBase> setting = makeDefault();
         const QString file = fileOf(*setting);
         if (QFileInfo::exists(file)) {
             QString reason;
             if (!setting->loadXML(file.toStdWString(), &reason)) {
                 problems.push_back(setAside(file, reason));
-                setting = topic.makeDefault();
+                setting = makeDefault();
             }
         }
         config.putSetting(std::move(setting));

@@ -27,9 +27,10 @@ public:
     const QString& folder() const { return m_folder; }
     QString fileOf(const ui::setting::CSettingBase& setting) const;
 
-    // Puts every topic's setting into the configuration: from its file when there is one,
-    // else the built-in defaults. An unreadable file is moved aside and reported.
-    std::vector<Problem> loadAll(const std::vector<Topic>& topics, core::CSystemConfig& config);
+    // Puts every setting into the configuration: from its file when there is one, else the
+    // built-in defaults. An unreadable file is moved aside and reported.
+    std::vector<Problem> loadAll(const std::vector<SettingFactory>& factories,
+                                 core::CSystemConfig& config);
 
     // Writes atomically; refuses a file that was unreadable and could not be moved aside.
     bool save(const ui::setting::CSettingBase& setting, QString* error);

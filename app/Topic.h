@@ -16,6 +16,8 @@ namespace kesto::workbench {
 
 class SettingsStore;
 
+using SettingFactory = std::function<std::unique_ptr<ui::setting::CSettingBase>()>;
+
 // One state of a dialog worth a picture: the file suffix and how to arrange the dialog.
 struct Shot {
     QString suffix;
@@ -28,7 +30,7 @@ struct Topic {
     QString group; // subsystem, as listed
     QString title; // the dialog's title
     QString id;    // stable key for files and pictures
-    std::function<std::unique_ptr<ui::setting::CSettingBase>()> makeDefault;
+    SettingFactory makeDefault;
     // Runs the entry function on the current setting; true when it changed the setting.
     std::function<bool(ui::setting::CSettingBase& current, const ui::setting::CSettingBase& reset)>
         open;
@@ -57,6 +59,9 @@ Topic makeSettingTopic(QString group, QString title, QString id, std::function<S
 
 // Every topic built so far, in the order they are listed.
 std::vector<Topic> allTopics();
+
+// The host's own tables the dialogs read (colours, line types, ...), with their defaults.
+std::vector<SettingFactory> hostSettings();
 
 // Per subsystem.
 void addSystemTopics(std::vector<Topic>& topics);

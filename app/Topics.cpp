@@ -1,5 +1,8 @@
 #include "Topic.h"
 
+#include "setting/SystemColorSetting.h"
+#include "setting/SystemLineTypeSetting.h"
+
 namespace kesto::workbench {
 
 std::vector<Topic> allTopics()
@@ -7,6 +10,18 @@ std::vector<Topic> allTopics()
     std::vector<Topic> topics;
     addSystemTopics(topics);
     return topics;
+}
+
+std::vector<SettingFactory> hostSettings()
+{
+    using namespace ui::setting;
+    return {
+        [] { return std::make_unique<CSystemColorSetting>(CSystemColorSetting::makeDefault()); },
+        [] { return std::make_unique<CColorSetting>(); },
+        [] {
+            return std::make_unique<CSystemLineTypeSetting>(CSystemLineTypeSetting::makeDefault());
+        },
+    };
 }
 
 } // namespace kesto::workbench

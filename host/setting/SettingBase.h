@@ -18,6 +18,8 @@ public:
     virtual std::unique_ptr<CSettingBase> clone() const = 0;
     // Copies another setting of the same class; false for another class.
     virtual bool assign(const CSettingBase& other) = 0;
+    // Same class and isSame.
+    virtual bool equals(const CSettingBase& other) const = 0;
 
     // Reads the whole setting from its element; on false the setting is unchanged.
     virtual bool loadXMLNode(const QDomElement& element) = 0;
@@ -48,6 +50,11 @@ public:
             return false;
         static_cast<Derived&>(*this) = *same;
         return true;
+    }
+    bool equals(const CSettingBase& other) const override
+    {
+        const auto* same = dynamic_cast<const Derived*>(&other);
+        return same && static_cast<const Derived&>(*this).isSame(*same);
     }
 };
 

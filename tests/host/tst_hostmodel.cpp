@@ -5,6 +5,8 @@
 #include "core/DialogRegistry.h"
 #include "db/MemoryDataBase.h"
 #include "observer/Subject.h"
+#include "setting/SystemColorSetting.h"
+#include "setting/SystemLineTypeSetting.h"
 #include "setting/SystemScaleSetting.h"
 #include "types/KsLayer.h"
 #include "types/KsScale.h"
@@ -234,6 +236,55 @@ private slots:
                  140);
         QCOMPARE(store.readInt(QStringLiteral("SystemPaperSizeDlg"), QStringLiteral("head1"), 100),
                  100);
+    }
+
+    void lineTypeTableResolvesNamesAndRefusesBadTables()
+    {
+        test::HostFixture host;
+        using ui::setting::CSystemLineTypeSetting;
+        CSystemLineTypeSetting table = CSystemLineTypeSetting::makeDefault();
+        QCOMPARE(table.findByName(L"一点鎖線")->getId(), 3);
+        QVERIFY(!table.findByName(L"ByLayer"));
+        QVERIFY(table.findById(1)->getName() == L"実線");
+        QVERIFY(!table.setLineTypes({KsLineType(1, L"a"), KsLineType(1, L"b")}));
+        QVERIFY(!table.setLineTypes({KsLineType(1, L"a"), KsLineType(2, L"a")}));
+        QVERIFY(!table.setLineTypes({KsLineType(0, L"a")}));
+        QVERIFY(table.isSame(CSystemLineTypeSetting::makeDefault()));
+
+        const QString path = host.path(QStringLiteral("lt.xml"));
+        QVERIFY(table.saveXML(path.toStdWString()));
+        CSystemLineTypeSetting loaded;
+        QVERIFY(loaded.loadXML(path.toStdWString()));
+        QVERIFY(loaded.isSame(table));
+        QCOMPARE(loaded.findByName(L"二点鎖線")->getDashes().size(), std::size_t(6));
+
+        QVERIFY(writeAll(path, "<SystemLineTypeSetting><LineType id=\"1\" name=\"x\" "
+                               "dashes=\"1 a\"/></SystemLineTypeSetting>"));
+        QVERIFY(!loaded.loadXML(path.toStdWString()));
+        QVERIFY(loaded.isSame(table));
+    }
+
+    void customColoursKeepTheNewestFirst()
+    {
+        using ui::setting::CColorSetting;
+        CColorSetting colors;
+        for (std::uint32_t i = 1; i <= 20; ++i)
+            colors.addCustomColor(i);
+        QCOMPARE(colors.getCustomColors().size(), CColorSetting::kMaxCustomColors);
+        QCOMPARE(colors.getCustomColors().front(), 20u);
+        colors.addCustomColor(10);
+        QCOMPARE(colors.getCustomColors().front(), 10u);
+        QCOMPARE(colors.getCustomColors().size(), CColorSetting::kMaxCustomColors);
+
+        test::HostFixture host;
+        const QString path = host.path(QStringLiteral("c.xml"));
+        QVERIFY(colors.saveXML(path.toStdWString()));
+        CColorSetting loaded;
+        QVERIFY(loaded.loadXML(path.toStdWString()));
+        QVERIFY(loaded.isSame(colors));
+        const auto system = ui::setting::CSystemColorSetting::makeDefault();
+        QVERIFY(system.findByRGB(0xFFFFFF)->getName() == L"白");
+        QVERIFY(system.findByName(L"黒")->getRGB() == 0u);
     }
 
     void openDialogsAnnounceThemselves()

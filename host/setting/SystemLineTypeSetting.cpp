@@ -1,0 +1,118 @@
+#include "setting/SystemLineTypeSetting.h"
+
+#include "utility/NumberFormat.h"
+#include "utility/Xml.h"
+
+#include <QStringList>
+
+#include <set>
+
+namespace kesto::ui::setting {
+
+namespace {
+
+QString tag()
+{
+    return QStringLiteral("LineType");
+}
+
+QString dashesText(const std::vector<double>& dashes)
+{
+    QStringList parts;
+    for (double d : dashes)
+        parts << utility::formatDecimal(d, 6);
+    return parts.join(u' ');
+}
+
+bool readDashes(const QString& text, std::vector<double>& out)
+{
+    out.clear();
+    for (const QString& part : text.split(u' ', Qt::SkipEmptyParts)) {
+        const auto value = utility::parseDecimal(part);
+        if (!value)
+            return false;
+        out.push_back(*value);
+    }
+    return true;
+}
+
+} // namespace
+
+CSystemLineTypeSetting CSystemLineTypeSetting::makeDefault()
+{
+    CSystemLineTypeSetting setting;
+    setting.setLineTypes({
+        KsLineType(1, L"実線", KsLineType::Solid),
+        KsLineType(2, L"破線", KsLineType::Pattern, {3.0, -1.0}),
+        KsLineType(3, L"一点鎖線", KsLineType::Pattern, {10.0, -1.0, 0.5, -1.0}),
+        KsLineType(4, L"二点鎖線", KsLineType::Pattern, {10.0, -1.0, 0.5, -1.0, 0.5, -1.0}),
+        KsLineType(5, L"点線", KsLineType::Pattern, {0.5, -1.0}),
+        KsLineType(6, L"長破線", KsLineType::Pattern, {6.0, -1.5}),
+    });
+    return setting;
+}
+
+const KsLineType* CSystemLineTypeSetting::findByName(const std::wstring& name) const
+{
+    for (const KsLineType& lineType : m_lineTypes) {
+        if (lineType.getName() == name)
+            return &lineType;
+    }
+    return nullptr;
+}
+
+const KsLineType* CSystemLineTypeSetting::findById(int id) const
+{
+    for (const KsLineType& lineType : m_lineTypes) {
+        if (lineType.getId() == id)
+            return &lineType;
+    }
+    return nullptr;
+}
+
+bool CSystemLineTypeSetting::setLineTypes(const std::vector<KsLineType>& lineTypes)
+{
+    std::set<int> ids;
+    std::set<std::wstring> names;
+    for (const KsLineType& lineType : lineTypes) {
+        if (lineType.getId() <= 0 || lineType.getName().empty() || ids.count(lineType.getId())
+            || names.count(lineType.getName()))
+            return false;
+        ids.insert(lineType.getId());
+        names.insert(lineType.getName());
+    }
+    m_lineTypes = lineTypes;
+    return true;
+}
+
+bool CSystemLineTypeSetting::loadXMLNode(const QDomElement& element)
+{
+    std::vector<KsLineType> lineTypes;
+    for (QDomElement e = element.firstChildElement(tag()); !e.isNull();
+         e = e.nextSiblingElement(tag())) {
+        int id = 0;
+        int kind = KsLineType::Solid;
+        std::vector<double> dashes;
+        if (!utility::xml::readIntAttribute(e, QStringLiteral("id"), id)
+            || !readDashes(e.attribute(QStringLiteral("dashes")), dashes))
+            return false;
+        utility::xml::readIntAttribute(e, QStringLiteral("kind"), kind);
+        lineTypes.emplace_back(id, e.attribute(QStringLiteral("name")).toStdWString(), kind,
+                               dashes);
+    }
+    return setLineTypes(lineTypes);
+}
+
+void CSystemLineTypeSetting::saveXMLNode(QDomDocument& doc, QDomElement& element) const
+{
+    for (const KsLineType& lineType : m_lineTypes) {
+        QDomElement e = doc.createElement(tag());
+        e.setAttribute(QStringLiteral("id"), lineType.getId());
+        e.setAttribute(QStringLiteral("name"), QString::fromStdWString(lineType.getName()));
+        e.setAttribute(QStringLiteral("kind"), lineType.getKind());
+        e.setAttribute(QStringLiteral("dashes"), dashesText(lineType.getDashes()));
+        element.appendChild(e);
+    }
+}
+
+} // namespace kesto::ui::setting

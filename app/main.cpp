@@ -3,6 +3,7 @@
 #include "WorkbenchWindow.h"
 
 #include "core/Application.h"
+#include "tooltip/DlgToolTipManager.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -44,6 +45,10 @@ std::shared_ptr<core::CSystemConfig> setUpHost(const QString& settingsFolder)
     host->setResourceFolder(QDir(QCoreApplication::applicationDirPath())
                                 .filePath(QStringLiteral("resources"))
                                 .toStdWString());
+    QString error;
+    if (!ui::tooltip::ToolTipCatalog::instance().loadXML(QStringLiteral(":/kesto/tooltips.xml"),
+                                                         &error))
+        host->log().warning(QStringLiteral("tool tips not loaded: %1").arg(error));
     host->setUserDataFolder(
         QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdWString());
     return config;

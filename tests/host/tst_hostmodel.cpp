@@ -8,6 +8,7 @@
 #include "setting/SystemColorSetting.h"
 #include "setting/SystemLineTypeSetting.h"
 #include "setting/SystemScaleSetting.h"
+#include "tooltip/DlgToolTipManager.h"
 #include "types/KsLayer.h"
 #include "types/KsScale.h"
 #include "utility/NumberFormat.h"
@@ -285,6 +286,31 @@ private slots:
         const auto system = ui::setting::CSystemColorSetting::makeDefault();
         QVERIFY(system.findByRGB(0xFFFFFF)->getName() == L"白");
         QVERIFY(system.findByName(L"黒")->getRGB() == 0u);
+    }
+
+    void toolTipsComeFromTheCatalogBySectionGroupAndKey()
+    {
+        using namespace ui::tooltip;
+        test::HostFixture host;
+        const QString path = host.path(QStringLiteral("tips.xml"));
+        QVERIFY(writeAll(path, "<tooltips><section name=\"Dia_setting\"><group name=\"G\">"
+                               "<tip key=\"short_cut\"> 右ボタンで表示 </tip></group></section>"
+                               "</tooltips>"));
+        ToolTipCatalog& catalog = ToolTipCatalog::instance();
+        catalog.clear();
+        QVERIFY(catalog.loadXML(path));
+        QWidget shown;
+        QWidget unknown;
+        DlgToolTipManager tips;
+        tips.init(QStringLiteral("Dia_setting"), QStringLiteral("G"));
+        QVERIFY(tips.addTool(&shown, QStringLiteral("short_cut")));
+        QVERIFY(!tips.addTool(&unknown, QStringLiteral("recently_cmd")));
+        QCOMPARE(shown.toolTip(), QStringLiteral("右ボタンで表示"));
+        QVERIFY(unknown.toolTip().isEmpty());
+        QCOMPARE(tips.count(), std::size_t(1));
+        QVERIFY(writeAll(path, "<tips/>"));
+        QVERIFY(!catalog.loadXML(path));
+        catalog.clear();
     }
 
     void openDialogsAnnounceThemselves()

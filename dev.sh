@@ -39,6 +39,7 @@ install_packages() {
 }
 
 build() {
+    export CCACHE_BASEDIR="$PWD" # shares cached objects between checkouts
     install_packages
     local launcher=()
     command -v ccache >/dev/null && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)

@@ -41,13 +41,14 @@ bool readDashes(const QString& text, std::vector<double>& out)
 CSystemLineTypeSetting CSystemLineTypeSetting::makeDefault()
 {
     CSystemLineTypeSetting setting;
+    // Ids start at 11: values up to 10 are the line-type modes of drawing settings (3: by layer).
     setting.setLineTypes({
-        KsLineType(1, L"実線", KsLineType::Solid),
-        KsLineType(2, L"破線", KsLineType::Pattern, {3.0, -1.0}),
-        KsLineType(3, L"一点鎖線", KsLineType::Pattern, {10.0, -1.0, 0.5, -1.0}),
-        KsLineType(4, L"二点鎖線", KsLineType::Pattern, {10.0, -1.0, 0.5, -1.0, 0.5, -1.0}),
-        KsLineType(5, L"点線", KsLineType::Pattern, {0.5, -1.0}),
-        KsLineType(6, L"長破線", KsLineType::Pattern, {6.0, -1.5}),
+        KsLineType(11, L"実線", KsLineType::Solid),
+        KsLineType(12, L"破線", KsLineType::Pattern, {3.0, -1.0}),
+        KsLineType(13, L"一点鎖線", KsLineType::Pattern, {10.0, -1.0, 0.5, -1.0}),
+        KsLineType(14, L"二点鎖線", KsLineType::Pattern, {10.0, -1.0, 0.5, -1.0, 0.5, -1.0}),
+        KsLineType(15, L"点線", KsLineType::Pattern, {0.5, -1.0}),
+        KsLineType(16, L"長破線", KsLineType::Pattern, {6.0, -1.5}),
     });
     return setting;
 }

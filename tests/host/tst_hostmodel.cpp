@@ -244,9 +244,10 @@ private slots:
         test::HostFixture host;
         using ui::setting::CSystemLineTypeSetting;
         CSystemLineTypeSetting table = CSystemLineTypeSetting::makeDefault();
-        QCOMPARE(table.findByName(L"一点鎖線")->getId(), 3);
+        QCOMPARE(table.findByName(L"一点鎖線")->getId(), 13);
         QVERIFY(!table.findByName(L"ByLayer"));
-        QVERIFY(table.findById(1)->getName() == L"実線");
+        QVERIFY(table.findById(11)->getName() == L"実線");
+        QVERIFY(!table.findById(3));
         QVERIFY(!table.setLineTypes({KsLineType(1, L"a"), KsLineType(1, L"b")}));
         QVERIFY(!table.setLineTypes({KsLineType(1, L"a"), KsLineType(2, L"a")}));
         QVERIFY(!table.setLineTypes({KsLineType(0, L"a")}));

@@ -1,5 +1,6 @@
 #include "DrawingFile.h"
 
+#include "types/KsCoordinateSystem.h"
 #include "types/KsLayer.h"
 #include "types/KsScale.h"
 #include "utility/Xml.h"
@@ -50,6 +51,16 @@ bool readLayer(const QDomElement& e, CMemoryDataBase& db, QString* error)
     return true;
 }
 
+bool readCoordinateSystem(const QDomElement& e, CMemoryDataBase& db, QString* error)
+{
+    const QString name = e.attribute(QStringLiteral("name"));
+    if (name.isEmpty())
+        return fail(
+            error, QStringLiteral("line %1: a coordinate system needs a name").arg(e.lineNumber()));
+    db.add<KsCoordinateSystem>(name.toStdWString());
+    return true;
+}
+
 } // namespace
 
 std::unique_ptr<CMemoryDataBase> readXmlDrawing(const QString& path, QString* error)
@@ -73,6 +84,8 @@ std::unique_ptr<CMemoryDataBase> readXmlDrawing(const QString& path, QString* er
             ok = readScale(e, *db, &reason);
         else if (e.tagName() == u"layer")
             ok = readLayer(e, *db, &reason);
+        else if (e.tagName() == u"coordsys")
+            ok = readCoordinateSystem(e, *db, &reason);
         if (!ok) {
             fail(error, QStringLiteral("%1: %2").arg(path, reason));
             return nullptr;

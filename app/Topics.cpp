@@ -1,5 +1,6 @@
 #include "Topic.h"
 
+#include "setting/LineEndSetting.h"
 #include "setting/SystemColorSetting.h"
 #include "setting/SystemLineTypeSetting.h"
 
@@ -21,6 +22,7 @@ std::vector<SettingFactory> hostSettings()
         [] {
             return std::make_unique<CSystemLineTypeSetting>(CSystemLineTypeSetting::makeDefault());
         },
+        [] { return std::make_unique<CLineEndSetting>(CLineEndSetting::makeDefault()); },
     };
 }
 

@@ -142,6 +142,7 @@ private slots:
         QCOMPARE(layers.size(), std::size_t(5));
         QVERIFY(!layers[4]->isVisible());
         QCOMPARE(layers[1]->getColor().getRGB(), 0xFF0000u);
+        QCOMPARE(db->countElements(L"COORDSYS"), std::size_t(2));
     }
 
     void badDrawingFilesAreRefusedWithAReason_data()
@@ -155,6 +156,8 @@ private slots:
             << "c.xml"
             << QByteArray("<drawing><scale numerator=\"1\" denominator=\"0\"/></drawing>")
             << "greater than zero";
+        QTest::newRow("nameless coordinate system")
+            << "f.xml" << QByteArray("<drawing><coordsys/></drawing>") << "needs a name";
         QTest::newRow("nameless layer")
             << "d.xml" << QByteArray("<drawing><layer/></drawing>") << "needs a name";
         QTest::newRow("unknown format")

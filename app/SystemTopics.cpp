@@ -1,6 +1,7 @@
 #include "Topic.h"
 
 #include "KsSystemConfigDlg.h"
+#include "core/Application.h"
 #include "framework/KsDialog.h"
 
 #include <QTabBar>
@@ -15,6 +16,18 @@ void showDrawingTab(ui::framework::CKsDialog& dialog)
     if (auto* tab = dialog.dlgItem<QTabBar>(kTableTab); tab && tab->count() > 1)
         tab->setCurrentIndex(1);
 }
+// The workbench's open drawing, whose line widths the line width dialog edits.
+IDataBase* openDrawing()
+{
+    const core::CSystemConfig* config = core::Application::getInstance()->getSystemConfig();
+    return config ? config->getCurrentDataBase() : nullptr;
+}
+
+bool editLineWidths(ui::setting::CLineWidthSetting& setting,
+                    const ui::setting::CLineWidthSetting& defaults)
+{
+    return ui::config::doLineWidthDlg(setting, defaults, openDrawing());
+}
 } // namespace
 
 void addSystemTopics(std::vector<Topic>& topics)
@@ -24,6 +37,11 @@ void addSystemTopics(std::vector<Topic>& topics)
     topics.push_back(makeSettingTopic<CSystemScaleSetting>(
         group, QStringLiteral("スケールの設定"), QStringLiteral("system-scale"),
         &CSystemScaleSetting::makeDefault, &ui::config::doSystemScaleDlg,
+        {{QString(), {}}, {QStringLiteral("drawing"), showDrawingTab}}));
+    using ui::setting::CLineWidthSetting;
+    topics.push_back(makeSettingTopic<CLineWidthSetting>(
+        group, QStringLiteral("線幅の設定"), QStringLiteral("system-linewidth"),
+        &CLineWidthSetting::makeDefault, &editLineWidths,
         {{QString(), {}}, {QStringLiteral("drawing"), showDrawingTab}}));
 }
 

@@ -98,10 +98,14 @@ int sampleThickness(double widthMm)
     return std::clamp(static_cast<int>(std::lround(widthMm * 5.0)), 1, 8);
 }
 
-QIcon lineWidthSample(double widthMm, const QColor& color)
+QIcon lineWidthSample(double widthMm, const QColor& color, const QColor& background)
 {
     QPixmap pixmap = blank(kLineSampleSize);
     QPainter painter(&pixmap);
+    if (background.isValid()) {
+        painter.fillRect(pixmap.rect(), background);
+        frame(painter, pixmap.rect());
+    }
     const int thickness = sampleThickness(widthMm);
     const int top = (kLineSampleSize.height() - thickness) / 2;
     painter.fillRect(QRect(2, top, kLineSampleSize.width() - 4, thickness), color);

@@ -174,9 +174,11 @@ void CLineWidthDlg::refreshChoiceCombos()
 {
     QStringList names;
     std::vector<QIcon> icons;
+    const QColor background =
+        QColor::fromRgb(core::Application::getInstance()->getBackgroundColor());
     auto add = [&](const std::wstring& name, double width, std::uint32_t rgb) {
         names << QString::fromStdWString(name);
-        icons.push_back(control::samples::lineWidthSample(width, QColor::fromRgb(rgb)));
+        icons.push_back(control::samples::lineWidthSample(width, QColor::fromRgb(rgb), background));
     };
     if (onDrawingTab()) {
         for (const SDrawingWidth& w : m_drawingWidths)

@@ -4,6 +4,8 @@
 #include "db/IDataBase.h"
 #include "system/LineWidthDlg.h"
 #include "system/LineWidthRules.h"
+#include "system/SystemPaperFrameDlg.h"
+#include "system/SystemPaperSizeDlg.h"
 #include "system/SystemScaleDlg.h"
 
 namespace kesto::ui::config {
@@ -38,6 +40,18 @@ bool doLineWidthDlg(setting::CLineWidthSetting& setting, const setting::CLineWid
         db->recordChange(linewidthtable::kChangeLabel);
     setting = dialog.workingSetting();
     return true;
+}
+
+bool doPaperSizeDlg(setting::CSystemPaperSizeSetting& setting,
+                    const setting::CSystemPaperSizeSetting& defaults)
+{
+    return runSettingDialog<CSystemPaperSizeDlg>(setting, &defaults, CopyBack::OnChange);
+}
+
+bool doSystemPaperFrameDlg(setting::CSystemPaperFrameSetting& setting,
+                           const setting::CSystemPaperFrameSetting& defaults)
+{
+    return runSettingDialog<CSystemPaperFrameDlg>(setting, &defaults, CopyBack::OnOk);
 }
 
 } // namespace kesto::ui::config

@@ -1,6 +1,8 @@
 #include "res/ResourceTables.h"
 #include "res/SystemResource.h"
 
+#include "ui_2011.h"
+#include "ui_2036.h"
 #include "ui_2038.h"
 #include "ui_2039.h"
 
@@ -43,7 +45,9 @@ bool registerSystemResources(framework::ResourceModule& module)
 {
     return module.addStrings(kStrings, std::size(kStrings))
            && module.addLayout(IDD_SYSTEM_SCALE, &buildLayout<Ui::Dlg2039>)
-           && module.addLayout(IDD_LINE_WIDTH, &buildLayout<Ui::Dlg2038>);
+           && module.addLayout(IDD_LINE_WIDTH, &buildLayout<Ui::Dlg2038>)
+           && module.addLayout(IDD_SYSTEM_PAPER_SIZE, &buildLayout<Ui::Dlg2011>)
+           && module.addLayout(IDD_SYSTEM_PAPER_FRAME, &buildLayout<Ui::Dlg2036>);
 }
 
 } // namespace kesto::ui::config::res

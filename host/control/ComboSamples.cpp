@@ -1,5 +1,6 @@
 #include "control/ComboSamples.h"
 
+#include <QHash>
 #include <QPainter>
 #include <QPixmap>
 
@@ -100,6 +101,16 @@ int sampleThickness(double widthMm)
 
 QIcon lineWidthSample(double widthMm, const QColor& color, const QColor& background)
 {
+    // Long tables repeat a few thicknesses and colours: draw each look once.
+    static QHash<QString, QIcon> cache;
+    const QString key = QStringLiteral("%1/%2/%3")
+                            .arg(sampleThickness(widthMm))
+                            .arg(color.rgba())
+                            .arg(background.isValid() ? background.rgba() : 0u);
+    if (const auto it = cache.constFind(key); it != cache.constEnd())
+        return *it;
+    if (cache.size() > 4096)
+        cache.clear();
     QPixmap pixmap = blank(kLineSampleSize);
     QPainter painter(&pixmap);
     if (background.isValid()) {
@@ -109,7 +120,8 @@ QIcon lineWidthSample(double widthMm, const QColor& color, const QColor& backgro
     const int thickness = sampleThickness(widthMm);
     const int top = (kLineSampleSize.height() - thickness) / 2;
     painter.fillRect(QRect(2, top, kLineSampleSize.width() - 4, thickness), color);
-    return QIcon(pixmap);
+    painter.end();
+    return *cache.insert(key, QIcon(pixmap));
 }
 
 QIcon otherLineTypeSample()

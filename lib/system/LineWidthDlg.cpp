@@ -13,6 +13,7 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QSignalBlocker>
+#include <QStandardItemModel>
 #include <QTabBar>
 
 namespace kesto::ui::config {
@@ -88,7 +89,9 @@ bool CLineWidthDlg::OnInitDialog()
         onClicked(IDC_RESET, [this] { OnBnClickedReset(); });
         onClicked(IDC_REGISTER_SYSTEM, [this] { OnBnClickedRegister(); });
         onClicked(IDC_HELP, [this] { OnBnClickedHelp(); });
+        m_choiceModel = new QStandardItemModel(this);
         for (int i = 0; i < 3; ++i) {
+            m_choiceCombos[i]->setModel(m_choiceModel);
             m_choiceCombos[i]->setIconSize(control::samples::kLineSampleSize);
             connect(m_choiceCombos[i], &QComboBox::activated, this,
                     [this, i](int index) { OnCbnSelchangeChoice(i, index); });
@@ -169,16 +172,19 @@ void CLineWidthDlg::refreshButtons()
     apply(IDC_REGISTER_SYSTEM, s.registerVisible, s.registerEnabled);
 }
 
-// The combos list the current tab's widths; each shows its choice when the list has its name.
+// The combos share one list of the current tab's widths; each shows its choice when the list
+// has its name.
 void CLineWidthDlg::refreshChoiceCombos()
 {
-    QStringList names;
-    std::vector<QIcon> icons;
     const QColor background =
         QColor::fromRgb(core::Application::getInstance()->getBackgroundColor());
+    QStringList names;
+    QList<QStandardItem*> items;
     auto add = [&](const std::wstring& name, double width, std::uint32_t rgb) {
         names << QString::fromStdWString(name);
-        icons.push_back(control::samples::lineWidthSample(width, QColor::fromRgb(rgb), background));
+        items << new QStandardItem(
+            control::samples::lineWidthSample(width, QColor::fromRgb(rgb), background),
+            names.last());
     };
     if (onDrawingTab()) {
         for (const SDrawingWidth& w : m_drawingWidths)
@@ -187,14 +193,13 @@ void CLineWidthDlg::refreshChoiceCombos()
         for (const SLineWidth& w : m_widths)
             add(w.getWidthName(), w.getWidth(), w.getColor());
     }
-    for (int i = 0; i < 3; ++i) {
-        QComboBox* combo = m_choiceCombos[i];
-        const QSignalBlocker blocker(combo);
-        combo->clear();
-        for (int n = 0; n < names.size(); ++n)
-            combo->addItem(icons[static_cast<std::size_t>(n)], names[n]);
-        combo->setCurrentIndex(rules::indexOfWidthName(names, m_choices[i].getWidth()));
-    }
+    std::array<QSignalBlocker, 3> blockers{QSignalBlocker(m_choiceCombos[0]),
+                                           QSignalBlocker(m_choiceCombos[1]),
+                                           QSignalBlocker(m_choiceCombos[2])};
+    m_choiceModel->clear();
+    m_choiceModel->appendColumn(items);
+    for (int i = 0; i < 3; ++i)
+        m_choiceCombos[i]->setCurrentIndex(rules::indexOfWidthName(names, m_choices[i].getWidth()));
 }
 
 void CLineWidthDlg::OnTcnSelchangeTab()

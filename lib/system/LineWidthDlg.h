@@ -10,6 +10,7 @@
 
 class IDataBase;
 class QComboBox;
+class QStandardItemModel;
 class QTabBar;
 
 namespace kesto::ui::control {
@@ -80,6 +81,7 @@ private:
     QTabBar* m_tab = nullptr;
     control::CKsListCtrl* m_list = nullptr;
     std::array<QComboBox*, 3> m_choiceCombos{};
+    QStandardItemModel* m_choiceModel = nullptr;
 };
 
 } // namespace kesto::ui::config

@@ -94,9 +94,9 @@ QIcon lineTypeSample(const std::vector<double>& dashes)
     return QIcon(pixmap);
 }
 
-int sampleThickness(double widthMm)
+double sampleThickness(double widthMm)
 {
-    return std::clamp(static_cast<int>(std::lround(widthMm * 5.0)), 1, 8);
+    return std::clamp(widthMm * 6.0, 0.7, 9.0);
 }
 
 QIcon lineWidthSample(double widthMm, const QColor& color, const QColor& background)
@@ -104,7 +104,7 @@ QIcon lineWidthSample(double widthMm, const QColor& color, const QColor& backgro
     // Long tables repeat a few thicknesses and colours: draw each look once.
     static QHash<QString, QIcon> cache;
     const QString key = QStringLiteral("%1/%2/%3")
-                            .arg(sampleThickness(widthMm))
+                            .arg(std::lround(sampleThickness(widthMm) * 10))
                             .arg(color.rgba())
                             .arg(background.isValid() ? background.rgba() : 0u);
     if (const auto it = cache.constFind(key); it != cache.constEnd())
@@ -117,9 +117,11 @@ QIcon lineWidthSample(double widthMm, const QColor& color, const QColor& backgro
         painter.fillRect(pixmap.rect(), background);
         frame(painter, pixmap.rect());
     }
-    const int thickness = sampleThickness(widthMm);
-    const int top = (kLineSampleSize.height() - thickness) / 2;
-    painter.fillRect(QRect(2, top, kLineSampleSize.width() - 4, thickness), color);
+    // Fractional thicknesses are antialiased, so 0.13 and 0.18 still look different.
+    const double thickness = sampleThickness(widthMm);
+    const double top = (kLineSampleSize.height() - thickness) / 2.0;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(QRectF(2, top, kLineSampleSize.width() - 4, thickness), color);
     painter.end();
     return *cache.insert(key, QIcon(pixmap));
 }

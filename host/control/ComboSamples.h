@@ -20,14 +20,14 @@ QIcon byLayerSwatch(const QSize& size = kSwatchSize);
 QIcon otherColorSwatch();
 // A line in the dash pattern (mm; dashes positive, gaps negative), 3 pixels per millimetre.
 QIcon lineTypeSample(const std::vector<double>& dashes);
-// A horizontal line as thick as the width suggests (1 to 8 pixels), optionally on a
+// A horizontal line as thick as the width suggests (6 pixels a millimetre), optionally on a
 // background (the drawing's, so the line looks as it will on screen).
 QIcon lineWidthSample(double widthMm, const QColor& color = Qt::black,
                       const QColor& background = QColor());
 // A question mark in a box: "choose another line type".
 QIcon otherLineTypeSample();
 
-// Pixel thickness of a width sample.
-int sampleThickness(double widthMm);
+// Pixel thickness of a width sample (0.7 to 9).
+double sampleThickness(double widthMm);
 
 } // namespace kesto::ui::control::samples

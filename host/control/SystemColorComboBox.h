@@ -71,4 +71,7 @@ private:
     int m_lastColorIndex = -1;
 };
 
+// The colour combo box family's name for the same control (getInvalidColor and the like).
+using CColorComboBox = CSystemColorComboBox;
+
 } // namespace kesto::ui::control

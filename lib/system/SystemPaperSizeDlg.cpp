@@ -106,8 +106,10 @@ void CSystemPaperSizeDlg::fillList()
 void CSystemPaperSizeDlg::refreshButtons()
 {
     const bool selected = m_list->getSelectedRow() >= 0;
-    GetDlgItem(IDC_PAPER_INSERT)->setEnabled(selected);
-    GetDlgItem(IDC_PAPER_DELETE)->setEnabled(selected);
+    for (int id : {IDC_PAPER_INSERT, IDC_PAPER_DELETE}) {
+        if (QWidget* button = GetDlgItem(id))
+            button->setEnabled(selected);
+    }
 }
 
 void CSystemPaperSizeDlg::OnBnClickedAdd()

@@ -1,12 +1,9 @@
 // The line width table's rules without a window.
 #include "system/LineWidthRules.h"
 
-#include "setting/SystemColorSetting.h"
-
 #include <QTest>
 
 using namespace kesto::ui::config::linewidthtable;
-using kesto::ui::setting::CSystemColorSetting;
 using kesto::ui::setting::SLineWidth;
 
 namespace {
@@ -104,34 +101,6 @@ private slots:
         QVERIFY(!containsWidth(widths, 0.91));
         QCOMPARE(indexOfWidthName({"0.13", "0.18", "1"}, 1.0), 2);
         QCOMPARE(indexOfWidthName({"0.13", "0.18"}, 0.25), -1);
-    }
-
-    void chosenColoursAreNamedAfterTheSystemColours()
-    {
-        const CSystemColorSetting system = CSystemColorSetting::makeDefault();
-        const KsColor red = colorOfRgb(0xFF0000, &system);
-        QCOMPARE(red.getName(), std::wstring(L"赤"));
-        QCOMPARE(red.getColorType(), int(KsColor::System));
-        const KsColor own = colorOfRgb(0x123456, &system);
-        QCOMPARE(own.getColorType(), int(KsColor::User));
-        QCOMPARE(own.getRGB(), 0x123456u);
-        QCOMPARE(colorOfRgb(0xFF0000, nullptr).getColorType(), int(KsColor::User));
-    }
-
-    void drawingWidthsConvertBothWays()
-    {
-        KsLineWidth drawing(0.45);
-        drawing.setColor(0x00FF00);
-        drawing.setColorType(2);
-        drawing.setColorName(L"若草");
-        const SLineWidth entry = fromDrawingWidth(drawing);
-        QCOMPARE(entry.getWidthName(), std::wstring(L"0.45"));
-        QCOMPARE(entry.getColorName(), std::wstring(L"若草"));
-        QVERIFY(!entry.isSystemDefault());
-        const KsLineWidth back = toDrawingWidth(entry, KsLineWidth::Bold);
-        QCOMPARE(back.getKind(), int(KsLineWidth::Bold));
-        QCOMPARE(back.getColor(), 0x00FF00u);
-        QCOMPARE(back.getWidth(), 0.45);
     }
 };
 

@@ -89,16 +89,6 @@ private slots:
         QCOMPARE(problem.row, row);
     }
 
-    void paperSizeRowsConvertBothWays()
-    {
-        const auto size = size::sizeOfRow(sizeRow("B4", "２５７", "364"));
-        QCOMPARE(size.name, std::wstring(L"B4"));
-        QCOMPARE(size.height, 257);
-        QCOMPARE(size::rowTexts(size), sizeRow("B4", "257", "364"));
-        const auto fresh = size::newPaperSize();
-        QCOMPARE(size::rowTexts(fresh), sizeRow("新サイズ", "1", "1"));
-    }
-
     void frameChecksNeedRowsNamesAndUniqueNames()
     {
         QCOMPARE(frame::check({}).kind, SProblem::NoRows);

@@ -61,6 +61,43 @@ bool readCoordinateSystem(const QDomElement& e, CMemoryDataBase& db, QString* er
     return true;
 }
 
+bool readLineWidth(const QDomElement& e, CMemoryDataBase& db, QString* error)
+{
+    double width = 0;
+    if (!utility::xml::readDoubleAttribute(e, QStringLiteral("width"), width) || width <= 0)
+        return fail(error, QStringLiteral("line %1: a line width needs a width greater than zero")
+                               .arg(e.lineNumber()));
+    const QColor color(e.attribute(QStringLiteral("color"), QStringLiteral("#FFFFFF")));
+    if (!color.isValid())
+        return fail(error,
+                    QStringLiteral("line %1: the colour must be #RRGGBB").arg(e.lineNumber()));
+    auto* lineWidth = db.add<KsLineWidth>(width);
+    lineWidth->setColor(color.rgb());
+    lineWidth->setColorType(KsColor::System);
+    lineWidth->setColorName(e.attribute(QStringLiteral("colorName")).toStdWString());
+    return true;
+}
+
+// Thin, bold and extra bold of the drawing; each attribute is optional.
+bool readWidthKinds(const QDomElement& e, CMemoryDataBase& db, QString* error)
+{
+    const std::pair<const char*, int> kinds[] = {{"thin", KsLineWidth::Thin},
+                                                 {"bold", KsLineWidth::Bold},
+                                                 {"extrabold", KsLineWidth::ExtraBold}};
+    for (const auto& [name, kind] : kinds) {
+        const QString attribute = QString::fromLatin1(name);
+        if (!e.hasAttribute(attribute))
+            continue;
+        double width = 0;
+        if (!utility::xml::readDoubleAttribute(e, attribute, width) || width <= 0)
+            return fail(error, QStringLiteral("line %1: %2 must be a width greater than zero")
+                                   .arg(e.lineNumber())
+                                   .arg(attribute));
+        db.setLineWidthOfKind(kind, KsLineWidth(width, kind));
+    }
+    return true;
+}
+
 } // namespace
 
 std::unique_ptr<CMemoryDataBase> readXmlDrawing(const QString& path, QString* error)
@@ -86,6 +123,10 @@ std::unique_ptr<CMemoryDataBase> readXmlDrawing(const QString& path, QString* er
             ok = readLayer(e, *db, &reason);
         else if (e.tagName() == u"coordsys")
             ok = readCoordinateSystem(e, *db, &reason);
+        else if (e.tagName() == u"linewidth")
+            ok = readLineWidth(e, *db, &reason);
+        else if (e.tagName() == u"linewidthkinds")
+            ok = readWidthKinds(e, *db, &reason);
         if (!ok) {
             fail(error, QStringLiteral("%1: %2").arg(path, reason));
             return nullptr;

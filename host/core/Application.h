@@ -5,6 +5,7 @@
 #include "core/PlacementStore.h"
 #include "core/SystemConfig.h"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -36,6 +37,10 @@ public:
     const std::wstring& getUserDataFolder() const { return m_userDataFolder; }
     void setUserDataFolder(std::wstring folder) { m_userDataFolder = std::move(folder); }
 
+    // Background colour of the drawing views (0xRRGGBB); black unless the host sets it.
+    std::uint32_t getBackgroundColor() const { return m_backgroundColor; }
+    void setBackgroundColor(std::uint32_t rgb) { m_backgroundColor = rgb & 0xFFFFFFu; }
+
     Log& log() { return m_log; }
     PlacementStore& placements() { return m_placements; }
     DialogRegistry& dialogs() { return m_dialogs; }
@@ -58,6 +63,7 @@ private:
     PlacementStore m_placements;
     DialogRegistry m_dialogs;
     HelpHandler m_helpHandler;
+    std::uint32_t m_backgroundColor = 0x000000;
 };
 
 } // namespace kesto::core

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "types/KsLineWidth.h"
 #include "types/KsObject.h"
 
 #include <functional>
@@ -21,6 +22,16 @@ public:
 
     // A display name for the drawing (file name or title).
     virtual std::wstring getTitle() const = 0;
+
+    // Line width table ("LWIDTH"): replaces an element's width, name and colour with value's;
+    // false when element is not one of this drawing's line widths.
+    virtual bool updateLineWidth(KsLineWidth* element, const KsLineWidth& value) = 0;
+    // The drawing's thin, bold and extra bold widths (kind KsLineWidth::Thin, Bold,
+    // ExtraBold); false for any other kind.
+    virtual bool getLineWidthOfKind(int kind, KsLineWidth& out) const = 0;
+    virtual bool setLineWidthOfKind(int kind, const KsLineWidth& width) = 0;
+    // Records a change of the drawing's tables under a label ("線幅設定", ...).
+    virtual void recordChange(const std::wstring& label) = 0;
 
     // Typed convenience over listElements.
     template <class T>

@@ -57,3 +57,38 @@ void CMemoryDataBase::clear()
 {
     m_byType.clear();
 }
+
+bool CMemoryDataBase::updateLineWidth(KsLineWidth* element, const KsLineWidth& value)
+{
+    const auto it = m_byType.find(L"LWIDTH");
+    if (!element || it == m_byType.end())
+        return false;
+    const bool owned = std::any_of(it->second.begin(), it->second.end(),
+                                   [&](const auto& e) { return e.get() == element; });
+    if (!owned)
+        return false;
+    element->setWidth(value.getWidth());
+    element->setName(value.getName());
+    element->setColor(value.getColor());
+    element->setColorType(value.getColorType());
+    element->setColorName(value.getColorName());
+    return true;
+}
+
+bool CMemoryDataBase::getLineWidthOfKind(int kind, KsLineWidth& out) const
+{
+    if (kind < KsLineWidth::Thin || kind > KsLineWidth::ExtraBold)
+        return false;
+    out = m_widthsOfKind[static_cast<std::size_t>(kind - KsLineWidth::Thin)];
+    return true;
+}
+
+bool CMemoryDataBase::setLineWidthOfKind(int kind, const KsLineWidth& width)
+{
+    if (kind < KsLineWidth::Thin || kind > KsLineWidth::ExtraBold)
+        return false;
+    KsLineWidth& stored = m_widthsOfKind[static_cast<std::size_t>(kind - KsLineWidth::Thin)];
+    stored = width;
+    stored.setKind(kind);
+    return true;
+}

@@ -2,6 +2,7 @@
 
 #include "db/IDataBase.h"
 
+#include <array>
 #include <map>
 #include <memory>
 
@@ -14,6 +15,13 @@ public:
     std::size_t countElements(const std::wstring& type) const override;
     void forEachElement(const std::function<void(KsObject&)>& visit) const override;
     std::wstring getTitle() const override { return m_title; }
+    bool updateLineWidth(KsLineWidth* element, const KsLineWidth& value) override;
+    bool getLineWidthOfKind(int kind, KsLineWidth& out) const override;
+    bool setLineWidthOfKind(int kind, const KsLineWidth& width) override;
+    void recordChange(const std::wstring& label) override { m_changeRecord.push_back(label); }
+
+    // The labels recorded so far, oldest first.
+    const std::vector<std::wstring>& getChangeRecord() const { return m_changeRecord; }
 
     // Takes ownership; returns the stored element.
     KsObject* addElement(std::unique_ptr<KsObject> element);
@@ -30,4 +38,9 @@ public:
 private:
     std::wstring m_title;
     std::map<std::wstring, std::vector<std::unique_ptr<KsObject>>> m_byType;
+    // Thin, bold and extra bold: 0.18, 0.35 and 0.7 mm until the drawing says otherwise.
+    std::array<KsLineWidth, 3> m_widthsOfKind{KsLineWidth(0.18, KsLineWidth::Thin),
+                                              KsLineWidth(0.35, KsLineWidth::Bold),
+                                              KsLineWidth(0.7, KsLineWidth::ExtraBold)};
+    std::vector<std::wstring> m_changeRecord;
 };

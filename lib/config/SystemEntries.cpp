@@ -1,6 +1,11 @@
 #include "config/SystemEntries.h"
 
 #include "config/ModalProtocol.h"
+#include "db/IDataBase.h"
+#include "system/LineWidthDlg.h"
+#include "system/LineWidthRules.h"
+#include "system/SystemPaperFrameDlg.h"
+#include "system/SystemPaperSizeDlg.h"
 #include "system/SystemScaleDlg.h"
 
 namespace kesto::ui::config {
@@ -17,6 +22,36 @@ bool doSystemScaleDlgAddMode(setting::CSystemScaleSetting& setting)
     const setting::CSystemScaleSetting resetValue = setting;
     return runSettingDialog<CSystemScaleDlg>(setting, &resetValue, CopyBack::OnOk,
                                              [](CSystemScaleDlg& dlg) { dlg.setAddMode(true); });
+}
+
+bool doLineWidthDlg(setting::CLineWidthSetting& setting, const setting::CLineWidthSetting& defaults,
+                    IDataBase* db)
+{
+    framework::ResourceSwitch resources(libraryResourceHandle());
+    CLineWidthDlg dialog;
+    dialog.workingSetting() = setting;
+    dialog.resetSetting() = defaults;
+    dialog.setDataBase(db);
+    const int result = dialog.DoModal();
+    resources.restore();
+    if (result != framework::IDOK)
+        return false;
+    if (db)
+        db->recordChange(linewidthtable::kChangeLabel);
+    setting = dialog.workingSetting();
+    return true;
+}
+
+bool doPaperSizeDlg(setting::CSystemPaperSizeSetting& setting,
+                    const setting::CSystemPaperSizeSetting& defaults)
+{
+    return runSettingDialog<CSystemPaperSizeDlg>(setting, &defaults, CopyBack::OnChange);
+}
+
+bool doSystemPaperFrameDlg(setting::CSystemPaperFrameSetting& setting,
+                           const setting::CSystemPaperFrameSetting& defaults)
+{
+    return runSettingDialog<CSystemPaperFrameDlg>(setting, &defaults, CopyBack::OnOk);
 }
 
 } // namespace kesto::ui::config

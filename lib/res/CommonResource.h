@@ -8,6 +8,11 @@ namespace kesto::ui::config::res {
 enum CommonString : int {
     IDS_TAB_SYSTEM = 6004,          // "システム"
     IDS_TAB_DRAWING = 6005,         // "図面内"
+    IDS_ELEMENT_COLOR = 6009,       // "要素の色"
+    IDS_FRAME_COLOR = 6010,         // "枠の色"
+    IDS_BY_LAYER = 6011,            // "レイヤ依存"
+    IDS_OTHER_COLOR = 6012,         // "他の色"
+    IDS_OTHER_LINETYPE = 6013,      // "他の線種"
     IDS_CAPTION_INPUT_ERROR = 6900, // "入力値エラー"
 };
 

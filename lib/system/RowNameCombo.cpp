@@ -1,0 +1,27 @@
+#include "system/RowNameCombo.h"
+
+#include "control/KsListCtrl.h"
+
+#include <QComboBox>
+#include <QSignalBlocker>
+
+namespace kesto::ui::config {
+
+void fillRowNameCombo(QComboBox& combo, const control::CKsListCtrl& list, int nameColumn)
+{
+    const QVariant chosen = combo.currentData();
+    const QSignalBlocker blocker(&combo);
+    combo.clear();
+    for (int row = 0; row < list.getRowCount(); ++row)
+        combo.addItem(list.getCellText(row, nameColumn),
+                      QVariant::fromValue<qulonglong>(list.getRow(row).data));
+    combo.setCurrentIndex(chosen.isValid() ? combo.findData(chosen) : -1);
+}
+
+void selectRowName(QComboBox& combo, const QString& name)
+{
+    const QSignalBlocker blocker(&combo);
+    combo.setCurrentIndex(combo.findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive));
+}
+
+} // namespace kesto::ui::config

@@ -1,0 +1,416 @@
+// "線幅の設定" end to end through doLineWidthDlg.
+#include "support/TestSupport.h"
+
+#include "config/SystemEntries.h"
+#include "control/KsListCtrl.h"
+#include "db/MemoryDataBase.h"
+#include "framework/MessageBox.h"
+#include "framework/ModalHook.h"
+#include "setting/SystemColorSetting.h"
+
+#include <QComboBox>
+#include <QSettings>
+#include <QTabBar>
+#include <QTest>
+
+using namespace kesto;
+using namespace kesto::ui::framework;
+using kesto::test::click;
+using kesto::test::isEnabled;
+using kesto::test::isShown;
+using ui::control::CKsListCtrl;
+using ui::setting::CLineWidthSetting;
+using ui::setting::SLineWidth;
+
+namespace {
+
+enum {
+    Tab = 7071,
+    List = 7062,
+    Add = 7501,
+    Insert = 7698,
+    Delete = 7502,
+    Up = 7401,
+    Down = 7503,
+    Reset = 7704,
+    Register = 13000,
+    Note = 7700,
+    Thin = 7705,
+    Bold = 7706,
+    ExtraBold = 7707,
+    Help = 7500
+};
+
+// Fixed 0.13 and 0.18 (thin), then the office's 0.3 (bold) and 0.6 (extra bold).
+CLineWidthSetting fourWidths()
+{
+    CLineWidthSetting setting;
+    std::vector<SLineWidth> widths;
+    widths.emplace_back(0.13, 0x00FFFF, 1, L"水色", true);
+    widths.emplace_back(0.18, 0xFFFFFF, 1, L"白", true);
+    widths.emplace_back(0.3, 0x808080, 1, L"灰");
+    widths.emplace_back(0.6, 0xFF0000, 1, L"赤");
+    setting.setUserLineWidths(widths);
+    setting.setThinLineWidth(widths[1]);
+    setting.setBoldLineWidth(widths[2]);
+    setting.setExtraBoldLineWidth(widths[3]);
+    return setting;
+}
+
+QStringList names(const CLineWidthSetting& setting)
+{
+    QStringList out;
+    for (const SLineWidth& w : setting.getLineWidths())
+        out << QString::fromStdWString(w.getWidthName());
+    return out;
+}
+
+CKsListCtrl& listOf(CKsDialog& d)
+{
+    return *d.dlgItem<CKsListCtrl>(List);
+}
+
+QTabBar& tabOf(CKsDialog& d)
+{
+    return *d.dlgItem<QTabBar>(Tab);
+}
+
+QComboBox& comboOf(CKsDialog& d, int id)
+{
+    return *d.dlgItem<QComboBox>(id);
+}
+
+QStringList column(CKsListCtrl& list, int c)
+{
+    QStringList out;
+    for (int r = 0; r < list.getRowCount(); ++r)
+        out << list.getCellText(r, c);
+    return out;
+}
+
+QStringList items(QComboBox& combo)
+{
+    QStringList out;
+    for (int i = 0; i < combo.count(); ++i)
+        out << combo.itemText(i);
+    return out;
+}
+
+// A user's pick of a combo box entry.
+void choose(QComboBox& combo, int index)
+{
+    combo.setCurrentIndex(index);
+    emit combo.activated(index);
+}
+
+// A drawing with its own line widths, 0.25 in red and 0.8 in white.
+struct Drawing {
+    CMemoryDataBase db{L"道路平面図"};
+    KsLineWidth* red = nullptr;
+    KsLineWidth* white = nullptr;
+    Drawing()
+    {
+        red = db.add<KsLineWidth>(0.25);
+        red->setColor(0xFF0000);
+        red->setColorName(L"赤");
+        white = db.add<KsLineWidth>(0.8);
+        white->setColor(0xFFFFFF);
+        white->setColorName(L"白");
+    }
+};
+
+void putSystemColors(test::HostFixture& host)
+{
+    host.config().putSetting(std::make_unique<ui::setting::CSystemColorSetting>(
+        ui::setting::CSystemColorSetting::makeDefault()));
+}
+
+} // namespace
+
+class TestLineWidthDlg : public QObject {
+    Q_OBJECT
+
+private slots:
+    void withoutADrawingOnlyTheSystemTableIsShown()
+    {
+        test::HostFixture host;
+        CLineWidthSetting setting = fourWidths();
+        ScopedModalDrivers drivers([](CKsDialog& d) {
+            QCOMPARE(d.windowTitle(), QStringLiteral("線幅の設定"));
+            QCOMPARE(tabOf(d).count(), 1);
+            QCOMPARE(tabOf(d).tabText(0), QStringLiteral("システム"));
+            CKsListCtrl& list = listOf(d);
+            QCOMPARE(list.model()->headerData(1, Qt::Horizontal).toString(), QStringLiteral("幅"));
+            QCOMPARE(list.model()->headerData(2, Qt::Horizontal).toString(), QStringLiteral("色"));
+            QCOMPARE(list.columnWidth(0), 15);
+            QCOMPARE(column(list, 0), QStringList({"*", "*", "", ""}));
+            QCOMPARE(column(list, 1), QStringList({"0.13", "0.18", "0.3", "0.6"}));
+            QCOMPARE(list.getCellColor(3, 2), QRgb(0xFF0000));
+            QVERIFY(!list.isCellEditable(1, 1) && list.isCellEditable(2, 1));
+            QVERIFY(list.isCellEditable(1, 2)); // a fixed entry's colour may change
+            QVERIFY(isShown(d, Note));
+            QCOMPARE(d.GetDlgItem(Note)->property("text").toString(),
+                     QStringLiteral("*はシステムの規定値であり、線幅の変更不可"));
+            QVERIFY(!isShown(d, Register));
+            QCOMPARE(items(comboOf(d, Thin)), column(list, 1));
+            QCOMPARE(comboOf(d, Thin).currentText(), QStringLiteral("0.18"));
+            QCOMPARE(comboOf(d, Bold).currentText(), QStringLiteral("0.3"));
+            QCOMPARE(comboOf(d, ExtraBold).currentText(), QStringLiteral("0.6"));
+            click(d, IDCANCEL);
+        });
+        QVERIFY(!ui::config::doLineWidthDlg(setting, CLineWidthSetting::makeDefault(), nullptr));
+    }
+
+    void entriesMoveOnlyAmongTheOfficesOwn()
+    {
+        test::HostFixture host;
+        CLineWidthSetting setting = fourWidths();
+        ScopedModalDrivers drivers([](CKsDialog& d) {
+            CKsListCtrl& list = listOf(d);
+            list.selectRow(1);
+            QVERIFY(!isEnabled(d, Insert) && !isEnabled(d, Delete));
+            QVERIFY(!isEnabled(d, Up) && !isEnabled(d, Down));
+            list.selectRow(2);
+            QVERIFY(isEnabled(d, Insert) && isEnabled(d, Delete) && isEnabled(d, Down));
+            QVERIFY(!isEnabled(d, Up)); // not past the fixed 0.18
+            QVERIFY(click(d, Down));
+            QCOMPARE(column(list, 1), QStringList({"0.13", "0.18", "0.6", "0.3"}));
+            QCOMPARE(list.getSelectedRow(), 3);
+            QVERIFY(!isEnabled(d, Down) && isEnabled(d, Up));
+            QVERIFY(click(d, Delete));
+            QCOMPARE(column(list, 1), QStringList({"0.13", "0.18", "0.6"}));
+            QCOMPARE(list.getSelectedRow(), 2);
+            QVERIFY(isEnabled(d, Delete));
+            list.selectRow(0);
+            QVERIFY(!click(d, Delete));
+            click(d, IDOK);
+        });
+        QVERIFY(ui::config::doLineWidthDlg(setting, {}, nullptr));
+        QCOMPARE(names(setting), QStringList({"0.13", "0.18", "0.6"}));
+    }
+
+    void newEntriesAreClearedAndShowAgainstTheBackground()
+    {
+        test::HostFixture host;
+        core::Application::getInstance()->setBackgroundColor(0xFFFFFF);
+        CLineWidthSetting setting = fourWidths();
+        ScopedModalDrivers drivers([](CKsDialog& d) {
+            CKsListCtrl& list = listOf(d);
+            QVERIFY(click(d, Add));
+            QCOMPARE(list.getRowCount(), 5);
+            QCOMPARE(list.getSelectedRow(), 4);
+            QCOMPARE(list.getCellText(4, 1), QStringLiteral("0"));
+            QCOMPARE(list.getCellColor(4, 2), QRgb(0x000000));
+            QVERIFY(list.commitCellText(4, 1, QStringLiteral("0.45")));
+            list.selectRow(3);
+            QVERIFY(click(d, Insert));
+            QCOMPARE(column(list, 1), QStringList({"0.13", "0.18", "0.3", "0", "0.6", "0.45"}));
+            QCOMPARE(list.getSelectedRow(), 3);
+            QCOMPARE(items(comboOf(d, Bold)), column(list, 1));
+            click(d, IDOK);
+        });
+        QVERIFY(ui::config::doLineWidthDlg(setting, {}, nullptr));
+        core::Application::getInstance()->setBackgroundColor(0x000000);
+        QCOMPARE(names(setting), QStringList({"0.13", "0.18", "0.3", "0", "0.6", "0.45"}));
+        const SLineWidth& added = setting.getLineWidths()[5];
+        QCOMPARE(added.getColorName(), std::wstring(L"黒"));
+        QCOMPARE(added.getColorType(), 1);
+        QVERIFY(!added.isSystemDefault());
+        QCOMPARE(setting.getLineWidths()[3].getColor(), 0x000000u);
+    }
+
+    void typedWidthsAreCheckedAndDuplicatesDroppedSilently()
+    {
+        test::HostFixture host;
+        MessageBoxRecorder boxes;
+        CLineWidthSetting setting = fourWidths();
+        ScopedModalDrivers drivers([&](CKsDialog& d) {
+            CKsListCtrl& list = listOf(d);
+            QVERIFY(list.commitCellText(2, 1, QStringLiteral("0.6")));
+            QCOMPARE(list.getCellText(2, 1), QStringLiteral("0.3"));
+            QVERIFY(list.commitCellText(2, 1, QStringLiteral("0.13")));
+            QCOMPARE(list.getCellText(2, 1), QStringLiteral("0.3"));
+            QCOMPARE(boxes.count(), std::size_t(0));
+            QVERIFY(list.commitCellText(3, 1, QStringLiteral("太め")));
+            QCOMPARE(list.getCellText(3, 1), QStringLiteral("0.6"));
+            QCOMPARE(boxes.count(), std::size_t(1));
+            QCOMPARE(boxes.last().text,
+                     QStringLiteral("4 行目の幅には 0 より大きい数値を入力してください。"));
+            QCOMPARE(boxes.last().caption, QStringLiteral("入力値エラー"));
+            QVERIFY(!list.commitCellText(0, 1, QStringLiteral("0.1"))); // fixed entry
+            QVERIFY(list.commitCellText(3, 1, QStringLiteral("0.7")));
+            QCOMPARE(list.getCellText(3, 1), QStringLiteral("0.7"));
+            QCOMPARE(comboOf(d, ExtraBold).currentIndex(), -1); // 0.6 is gone
+            click(d, IDOK);
+        });
+        QVERIFY(ui::config::doLineWidthDlg(setting, {}, nullptr));
+        QCOMPARE(names(setting), QStringList({"0.13", "0.18", "0.3", "0.7"}));
+    }
+
+    void coloursAreStoredWithTheirSystemNames()
+    {
+        test::HostFixture host;
+        putSystemColors(host);
+        CLineWidthSetting setting = fourWidths();
+        ScopedModalDrivers drivers([](CKsDialog& d) {
+            QVERIFY(listOf(d).commitCellColor(0, 2, 0x0000FF));
+            QVERIFY(listOf(d).commitCellColor(2, 2, 0x123456));
+            click(d, IDOK);
+        });
+        QVERIFY(ui::config::doLineWidthDlg(setting, {}, nullptr));
+        const auto& widths = setting.getLineWidths();
+        QCOMPARE(widths[0].getColor(), 0x0000FFu);
+        QCOMPARE(widths[0].getColorName(), std::wstring(L"青"));
+        QCOMPARE(widths[0].getColorType(), 1);
+        QCOMPARE(widths[2].getColor(), 0x123456u);
+        QCOMPARE(widths[2].getColorType(), 2);
+    }
+
+    void theKindCombosChooseThinBoldAndExtraBold()
+    {
+        test::HostFixture host;
+        CLineWidthSetting setting = fourWidths();
+        ScopedModalDrivers drivers([](CKsDialog& d) {
+            choose(comboOf(d, Bold), 0);
+            choose(comboOf(d, ExtraBold), 2);
+            click(d, IDOK);
+        });
+        QVERIFY(ui::config::doLineWidthDlg(setting, {}, nullptr));
+        QCOMPARE(setting.getThinLineWidth().getWidth(), 0.18);
+        QCOMPARE(setting.getBoldLineWidth().getWidth(), 0.13);
+        QCOMPARE(setting.getBoldLineWidth().getColorName(), std::wstring(L"水色"));
+        QCOMPARE(setting.getExtraBoldLineWidth().getWidth(), 0.3);
+    }
+
+    void resetRestoresTheDefaultsAndCancelKeepsEverything()
+    {
+        test::HostFixture host;
+        CLineWidthSetting setting = fourWidths();
+        const CLineWidthSetting defaults = CLineWidthSetting::makeDefault();
+        ScopedModalDrivers drivers;
+        drivers.add([](CKsDialog& d) {
+            click(d, Add);
+            choose(comboOf(d, Thin), 0);
+            click(d, IDCANCEL);
+        });
+        drivers.add([](CKsDialog& d) {
+            click(d, Add);
+            choose(comboOf(d, Thin), 0);
+            listOf(d).selectRow(2);
+            QVERIFY(click(d, Reset));
+            QCOMPARE(listOf(d).getRowCount(), 10);
+            QCOMPARE(listOf(d).getSelectedRow(), -1);
+            QCOMPARE(comboOf(d, Thin).currentText(), QStringLiteral("0.18"));
+            QCOMPARE(comboOf(d, ExtraBold).currentText(), QStringLiteral("0.7"));
+            click(d, IDOK);
+        });
+        QVERIFY(!ui::config::doLineWidthDlg(setting, defaults, nullptr));
+        QVERIFY(setting.isSame(fourWidths()));
+        QVERIFY(ui::config::doLineWidthDlg(setting, defaults, nullptr));
+        QVERIFY(setting.isSame(defaults));
+    }
+
+    void theDrawingTabEditsTheDrawingsWidthsAndRegistersNewOnes()
+    {
+        test::HostFixture host;
+        putSystemColors(host);
+        Drawing drawing;
+        MessageBoxRecorder boxes;
+        CLineWidthSetting setting = fourWidths();
+        setting.setUserLineWidths([] {
+            auto widths = fourWidths().getLineWidths();
+            widths.emplace_back(0.25, 0, 1, L"黒");
+            return widths;
+        }());
+        ScopedModalDrivers drivers([&](CKsDialog& d) {
+            QCOMPARE(tabOf(d).count(), 2);
+            QCOMPARE(tabOf(d).tabText(1), QStringLiteral("図面内"));
+            tabOf(d).setCurrentIndex(1);
+            CKsListCtrl& list = listOf(d);
+            QCOMPARE(column(list, 1), QStringList({"0.25", "0.8"}));
+            QCOMPARE(column(list, 0), QStringList({"", ""}));
+            QVERIFY(!isShown(d, Note));
+            QVERIFY(isShown(d, Register) && !isEnabled(d, Register));
+            QVERIFY(!isEnabled(d, Add) && !isEnabled(d, Reset));
+            QCOMPARE(items(comboOf(d, Bold)), QStringList({"0.25", "0.8"}));
+            QCOMPARE(comboOf(d, Thin).currentIndex(), -1);
+
+            list.selectRow(0);
+            QVERIFY(!isEnabled(d, Insert) && !isEnabled(d, Delete) && !isEnabled(d, Up));
+            QVERIFY(click(d, Register));
+            QCOMPARE(boxes.count(), std::size_t(1));
+            QCOMPARE(boxes.last().text,
+                     QStringLiteral("既に同じ線幅がシステム設定に存在しています。"));
+            QCOMPARE(boxes.last().caption, QStringLiteral("入力値エラー"));
+            list.selectRow(1);
+            QVERIFY(click(d, Register));
+            QCOMPARE(boxes.count(), std::size_t(1));
+
+            // The drawing's own widths skip the duplicate test.
+            QVERIFY(list.commitCellText(0, 1, QStringLiteral("0.18")));
+            QCOMPARE(list.getCellText(0, 1), QStringLiteral("0.18"));
+            QVERIFY(list.commitCellColor(1, 2, 0x00A000));
+            choose(comboOf(d, Bold), 1);
+
+            tabOf(d).setCurrentIndex(0);
+            QCOMPARE(column(listOf(d), 1).last(), QStringLiteral("0.8"));
+            QVERIFY(!isShown(d, Register));
+            click(d, IDOK);
+        });
+        QVERIFY(ui::config::doLineWidthDlg(setting, {}, &drawing.db));
+        QCOMPARE(names(setting), QStringList({"0.13", "0.18", "0.3", "0.6", "0.25", "0.8"}));
+        QCOMPARE(setting.getLineWidths().back().getColorName(), std::wstring(L"白"));
+        QCOMPARE(drawing.red->getWidth(), 0.18);
+        QCOMPARE(drawing.red->getName(), std::wstring(L"0.18"));
+        QCOMPARE(drawing.white->getColor(), 0x00A000u);
+        QCOMPARE(drawing.white->getColorName(), std::wstring(L"緑"));
+        KsLineWidth bold;
+        QVERIFY(drawing.db.getLineWidthOfKind(KsLineWidth::Bold, bold));
+        QCOMPARE(bold.getWidth(), 0.8);
+        QCOMPARE(bold.getColor(), 0x00A000u);
+        KsLineWidth thin;
+        QVERIFY(drawing.db.getLineWidthOfKind(KsLineWidth::Thin, thin));
+        QCOMPARE(thin.getWidth(), 0.18);
+        // Once by the dialog, once by the entry function.
+        QCOMPARE(drawing.db.getChangeRecord(),
+                 (std::vector<std::wstring>{L"線幅設定", L"線幅設定"}));
+    }
+
+    void cancelLeavesTheDrawingAlone()
+    {
+        test::HostFixture host;
+        Drawing drawing;
+        CLineWidthSetting setting = fourWidths();
+        ScopedModalDrivers drivers([](CKsDialog& d) {
+            tabOf(d).setCurrentIndex(1);
+            listOf(d).commitCellText(0, 1, QStringLiteral("2"));
+            choose(comboOf(d, Thin), 1);
+            click(d, IDCANCEL);
+        });
+        QVERIFY(!ui::config::doLineWidthDlg(setting, {}, &drawing.db));
+        QCOMPARE(drawing.red->getWidth(), 0.25);
+        KsLineWidth thin;
+        drawing.db.getLineWidthOfKind(KsLineWidth::Thin, thin);
+        QCOMPARE(thin.getWidth(), 0.18);
+        QVERIFY(drawing.db.getChangeRecord().empty());
+        QVERIFY(setting.isSame(fourWidths()));
+    }
+
+    void helpOpensTheLineWidthTopicAndThePlacementIsKept()
+    {
+        test::HostFixture host;
+        CLineWidthSetting setting = fourWidths();
+        ScopedModalDrivers drivers([](CKsDialog& d) {
+            QVERIFY(click(d, Help));
+            click(d, IDCANCEL);
+        });
+        ui::config::doLineWidthDlg(setting, {}, nullptr);
+        QCOMPARE(host.helpTopics(), QStringList{QStringLiteral("DLG_HLP_SYS_LINEWIDTH")});
+        core::Application::getInstance()->placements().sync();
+        QSettings saved(host.path(QStringLiteral("placements.ini")), QSettings::IniFormat);
+        QVERIFY(!saved.value(QStringLiteral("LineWidthDlg/geometry")).toByteArray().isEmpty());
+    }
+};
+
+QTEST_MAIN(TestLineWidthDlg)
+#include "tst_linewidthdlg.moc"

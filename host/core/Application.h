@@ -9,6 +9,10 @@
 #include <memory>
 #include <string>
 
+namespace kesto::utility {
+class CCommandTable;
+}
+
 namespace kesto::core {
 
 class IMainFrame;
@@ -46,6 +50,13 @@ public:
     // Replaces how topics are shown; returns the previous handler.
     HelpHandler setHelpHandler(HelpHandler handler);
 
+    // The application's command table; absent until the host has loaded one.
+    const utility::CCommandTable* getCommandTable() const { return m_commandTable.get(); }
+    void setCommandTable(std::shared_ptr<const utility::CCommandTable> table)
+    {
+        m_commandTable = std::move(table);
+    }
+
 private:
     Application();
     void openHelpPage(const QString& topic);
@@ -58,6 +69,7 @@ private:
     PlacementStore m_placements;
     DialogRegistry m_dialogs;
     HelpHandler m_helpHandler;
+    std::shared_ptr<const utility::CCommandTable> m_commandTable;
 };
 
 } // namespace kesto::core

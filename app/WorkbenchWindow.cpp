@@ -1,6 +1,10 @@
 #include "WorkbenchWindow.h"
 
+#include "CommandActions.h"
 #include "Session.h"
+
+#include "core/Application.h"
+#include "setting/ShortCutSetting.h"
 
 #include <QAction>
 #include <QFileDialog>
@@ -34,6 +38,7 @@ WorkbenchWindow::WorkbenchWindow(Session& session, QWidget* parent)
     layout->addWidget(openButton, 0, Qt::AlignRight);
     setCentralWidget(central);
     buildMenus();
+    buildCommandMenu();
     buildTopicTree();
     connect(openButton, &QPushButton::clicked, this, &WorkbenchWindow::openSelectedTopic);
     connect(m_tree, &QTreeWidget::itemActivated, this, &WorkbenchWindow::openSelectedTopic);
@@ -92,6 +97,35 @@ void WorkbenchWindow::openTopic(const Topic& topic)
                                  ? QStringLiteral("「%1」を保存しました。").arg(topic.title)
                                  : QStringLiteral("「%1」は変更されていません。").arg(topic.title),
                              5000);
+    applyShortCuts();
+}
+
+void WorkbenchWindow::buildCommandMenu()
+{
+    const utility::CCommandTable* table = core::Application::getInstance()->getCommandTable();
+    if (!table)
+        return;
+    m_commands = new CommandActions(*this, *table);
+    m_commands->fillMenu(*menuBar()->addMenu(QStringLiteral("コマンド(&C)")));
+    connect(m_commands, &CommandActions::commandRun, this,
+            [this](int, const QString& id, const QString& name) { showCommandRun(id, name); });
+    applyShortCuts();
+}
+
+// The keys the user set in "ショートカットキーの設定".
+void WorkbenchWindow::applyShortCuts()
+{
+    const core::CSystemConfig* config = core::Application::getInstance()->getSystemConfig();
+    const auto* shortCuts = config ? config->getSetting<ui::setting::CShortCutSetting>() : nullptr;
+    if (m_commands && shortCuts)
+        m_commands->applyShortCuts(*shortCuts);
+}
+
+void WorkbenchWindow::showCommandRun(const QString& id, const QString& name)
+{
+    statusBar()->showMessage(QStringLiteral("コマンド「%1」(%2) を実行しました。").arg(name, id),
+                             5000);
+    core::Application::getInstance()->log().info(QStringLiteral("command run: %1 %2").arg(id, name));
 }
 
 void WorkbenchWindow::chooseDrawing()

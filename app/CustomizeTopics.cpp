@@ -1,0 +1,53 @@
+#include "CommandActions.h"
+#include "Topic.h"
+
+#include "KsSystemConfigDlg.h"
+#include "command/CommandTable.h"
+#include "core/Application.h"
+#include "framework/KsDialog.h"
+
+#include <QTreeWidget>
+
+namespace kesto::workbench {
+
+namespace {
+
+const utility::CCommandTable* commandTable()
+{
+    return core::Application::getInstance()->getCommandTable();
+}
+
+ui::setting::CShortCutSetting defaultShortCuts()
+{
+    ui::setting::CShortCutSetting setting;
+    setting.setupByTable(commandTable());
+    return setting;
+}
+
+// The shortcut dialog with a command chosen in the tree, as a user starts.
+void chooseSaveCommand(ui::framework::CKsDialog& dialog)
+{
+    auto* tree = dialog.dlgItem<QTreeWidget>(8001);
+    const auto found = tree ? tree->findItems(QStringLiteral("上書き保存"),
+                                              Qt::MatchExactly | Qt::MatchRecursive)
+                            : QList<QTreeWidgetItem*>();
+    if (!found.isEmpty())
+        tree->setCurrentItem(found.first());
+}
+
+} // namespace
+
+void addCustomizeTopics(std::vector<Topic>& topics)
+{
+    using ui::setting::CShortCutSetting;
+    const QString group = QStringLiteral("ユーザーインターフェース");
+    topics.push_back(makeSettingTopic<CShortCutSetting>(
+        group, QStringLiteral("ショートカットキーの設定"), QStringLiteral("shortcut-keys"),
+        &defaultShortCuts,
+        [](CShortCutSetting& setting, const CShortCutSetting&) {
+            return ui::config::doShortCutDlg(setting, commandTable());
+        },
+        {{QString(), {}}, {QStringLiteral("command"), chooseSaveCommand}}));
+}
+
+} // namespace kesto::workbench

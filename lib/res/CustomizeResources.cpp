@@ -1,0 +1,44 @@
+#include "res/CustomizeResource.h"
+#include "res/ResourceTables.h"
+
+#include "ui_2086.h"
+
+#include <iterator>
+
+namespace kesto::ui::config::res {
+
+namespace {
+
+const framework::StringEntry kStrings[] = {
+    {IDS_SHORTCUT_COLUMN_KEY, "割り当てキー"},
+    {IDS_SHORTCUT_COLUMN_NAME, "コマンド名"},
+    {IDS_SHORTCUT_OWNER, "現在の割り当て\n%s"},
+    {IDS_MOUSE_NONE, "なし"},
+    {IDS_MOUSE_CREATE_FAILED, "マウスの設定ダイアログ作成に失敗しました。"},
+    {IDS_MOUSE_RESET_QUESTION, "マウスの設定を初期化します。\nよろしいですか？"},
+    {IDS_MOUSE_RESET_CAPTION, "設定初期化"},
+    {IDS_MOUSE_VIEW_2D, "2Dビュー"},
+    {IDS_MOUSE_VIEW_3D, "3Dビュー"},
+    {IDS_MOUSE_VIEW_RED, "朱書きビュー"},
+    {IDS_MOUSE_BUTTON_TABS_2D, "右ボタン\n左右ボタン\nホイール"},
+    {IDS_MOUSE_BUTTON_TABS_3D, "右ボタン\n左ボタン\n左右ボタン\nホイール"},
+    {IDS_MOUSE_LEFT_PAGE_CAPTIONS, "ドラッグ時\n回転\nスムーズスクロール"},
+    {IDS_MOUSE_BOTH_PAGE_CAPTIONS, "ドラッグ時\nスムーズスクロール\n回転"},
+    {IDS_MOUSE_WHEEL_PAGE_CAPTIONS, "回転時\nステップズーム\nＸ軸まわりに回転"},
+    {IDS_MOUSE_SEPARATOR_ROW, "────────────"},
+    {IDS_MOUSE_DIRECT_EDIT_ROW, "%s ※"},
+    {IDS_MOUSE_ROW_RANGE_DISPLAY, "表示範囲"},
+    {IDS_MOUSE_ROW_ROTATE_DISPLAY, "回転表示"},
+    {IDS_MOUSE_ROW_TEXT_CONTENTS, "文字内容編集 ※"},
+    {IDS_MOUSE_ROW_HYPERLINK, "ハイパーリンクの設定 ※"},
+};
+
+} // namespace
+
+bool registerCustomizeResources(framework::ResourceModule& module)
+{
+    return module.addStrings(kStrings, std::size(kStrings))
+           && module.addLayout(IDD_SHORTCUT, &buildLayout<Ui::Dlg2086>);
+}
+
+} // namespace kesto::ui::config::res

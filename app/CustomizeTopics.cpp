@@ -28,9 +28,9 @@ ui::setting::CShortCutSetting defaultShortCuts()
 void chooseSaveCommand(ui::framework::CKsDialog& dialog)
 {
     auto* tree = dialog.dlgItem<QTreeWidget>(8001);
-    const auto found = tree ? tree->findItems(QStringLiteral("上書き保存"),
-                                              Qt::MatchExactly | Qt::MatchRecursive)
-                            : QList<QTreeWidgetItem*>();
+    const auto found =
+        tree ? tree->findItems(QStringLiteral("上書き保存"), Qt::MatchExactly | Qt::MatchRecursive)
+             : QList<QTreeWidgetItem*>();
     if (!found.isEmpty())
         tree->setCurrentItem(found.first());
 }

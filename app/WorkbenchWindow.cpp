@@ -8,6 +8,7 @@
 
 #include <QAction>
 #include <QFileDialog>
+#include <QHash>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenuBar>
@@ -125,7 +126,27 @@ void WorkbenchWindow::showCommandRun(const QString& id, const QString& name)
 {
     statusBar()->showMessage(QStringLiteral("コマンド「%1」(%2) を実行しました。").arg(name, id),
                              5000);
-    core::Application::getInstance()->log().info(QStringLiteral("command run: %1 %2").arg(id, name));
+    core::Application::getInstance()->log().info(
+        QStringLiteral("command run: %1 %2").arg(id, name));
+    runOwnCommand(id);
+}
+
+// Commands the workbench itself can carry out; the others are only reported.
+void WorkbenchWindow::runOwnCommand(const QString& id)
+{
+    static const QHash<QString, QString> topics = {
+        {QStringLiteral("ID_SETTING_SCALE"), QStringLiteral("system-scale")},
+        {QStringLiteral("ID_SETTING_SHORTCUT"), QStringLiteral("shortcut-keys")},
+        {QStringLiteral("ID_SETTING_MOUSE"), QStringLiteral("mouse")},
+    };
+    if (const Topic* topic = m_session.findTopic(topics.value(id)))
+        openTopic(*topic);
+    else if (id == u"ID_FILE_OPEN")
+        chooseDrawing();
+    else if (id == u"ID_FILE_CLOSE")
+        closeDrawing();
+    else if (id == u"ID_APP_EXIT")
+        close();
 }
 
 void WorkbenchWindow::chooseDrawing()

@@ -34,6 +34,7 @@ private:
     void buildCommandMenu();
     void applyShortCuts();
     void showCommandRun(const QString& id, const QString& name);
+    void runOwnCommand(const QString& id);
 
     Session& m_session;
     QTreeWidget* m_tree = nullptr;

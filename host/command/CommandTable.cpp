@@ -55,9 +55,12 @@ QString readCommand(const QDomElement& e, int group, SCommand& command)
     if (!xml::readIntAttribute(e, QStringLiteral("number"), command.number))
         return where + QStringLiteral(": no number");
     if (!readKeys(e.attribute(QStringLiteral("keys")), command.defaultKeys))
-        return where + QStringLiteral(": unknown key in \"%1\"").arg(e.attribute(QStringLiteral("keys")));
+        return where
+               + QStringLiteral(": unknown key in \"%1\"").arg(e.attribute(QStringLiteral("keys")));
     if (!readFrames(e.attribute(QStringLiteral("frames")), command.frames))
-        return where + QStringLiteral(": unknown frames \"%1\"").arg(e.attribute(QStringLiteral("frames")));
+        return where
+               + QStringLiteral(": unknown frames \"%1\"")
+                     .arg(e.attribute(QStringLiteral("frames")));
     command.keyBindable = e.attribute(QStringLiteral("keyBindable")) != u"0";
     return {};
 }

@@ -15,10 +15,10 @@ namespace kesto::utility {
 
 // One command of the application.
 struct SCommand {
-    int number = 0;          // above 0; what settings store
-    std::wstring id;         // "ID_FILE_SAVE"
-    std::wstring name;       // display name, "上書き保存"
-    int group = -1;          // index into the table's groups
+    int number = 0;    // above 0; what settings store
+    std::wstring id;   // "ID_FILE_SAVE"
+    std::wstring name; // display name, "上書き保存"
+    int group = -1;    // index into the table's groups
     std::vector<keys::SKeyStroke> defaultKeys;
     unsigned frames = kAllFrames; // bits of IMainFrame::EFrameMode in which the command exists
     bool keyBindable = true;      // offered for shortcut keys

@@ -38,8 +38,8 @@ void setupCommandTree(QTreeWidget& tree, const utility::CCommandTable* table, ES
             continue;
         QTreeWidgetItem*& group = groups[static_cast<std::size_t>(command.group)];
         if (!group)
-            group = makeItem(table->groups()[static_cast<std::size_t>(command.group)],
-                             -command.group);
+            group =
+                makeItem(table->groups()[static_cast<std::size_t>(command.group)], -command.group);
         group->addChild(makeItem(command.name, command.number));
     }
     for (QTreeWidgetItem* group : groups) {

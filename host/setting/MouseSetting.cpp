@@ -105,12 +105,23 @@ SMouseSetting default2DView()
 {
     SMouseSetting view;
     const wchar_t* const menu[] = {
-        L"ID_EDIT_UNDO",           L"ID_EDIT_REDO",         L"",
-        L"ID_EDIT_CUT",            L"ID_EDIT_COPY",         L"ID_EDIT_PASTE",
-        L"",                       L"ID_EDIT_ERASE",        L"ID_EDIT_MOVE_MOVE",
-        L"ID_EDIT_COPY_COPY",      L"ID_EDIT_MOVE_ROTATE",  L"",
-        L"ID_EDIT_PROPERTY_COPY",  L"ID_TOOL_ELEMENT_STATUS", L"",
-        L"ID_VIEW_SELECT_RANGE_DISPLAY", L"ID_VIEW_ZOOM_ALL",
+        L"ID_EDIT_UNDO",
+        L"ID_EDIT_REDO",
+        L"",
+        L"ID_EDIT_CUT",
+        L"ID_EDIT_COPY",
+        L"ID_EDIT_PASTE",
+        L"",
+        L"ID_EDIT_ERASE",
+        L"ID_EDIT_MOVE_MOVE",
+        L"ID_EDIT_COPY_COPY",
+        L"ID_EDIT_MOVE_ROTATE",
+        L"",
+        L"ID_EDIT_PROPERTY_COPY",
+        L"ID_TOOL_ELEMENT_STATUS",
+        L"",
+        L"ID_VIEW_SELECT_RANGE_DISPLAY",
+        L"ID_VIEW_ZOOM_ALL",
     };
     bool pendingBreak = false;
     for (const wchar_t* id : menu) {
@@ -190,8 +201,8 @@ bool CMouseSetting::loadXMLNode(const QDomElement& element)
          e = e.nextSiblingElement(viewTag())) {
         const std::wstring name = e.attribute(QStringLiteral("name")).toStdWString();
         SMouseSetting view;
-        const bool repeated = std::any_of(views.begin(), views.end(),
-                                          [&](const auto& v) { return v.first == name; });
+        const bool repeated =
+            std::any_of(views.begin(), views.end(), [&](const auto& v) { return v.first == name; });
         if (name.empty() || repeated || !readView(e, view))
             return false;
         views.emplace_back(name, std::move(view));

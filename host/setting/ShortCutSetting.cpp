@@ -90,8 +90,8 @@ bool CShortCutSetting::addItem(std::uint16_t flags, std::uint16_t key, int comma
     if (key == 0 || commandNumber <= 0)
         return false;
     deleteItem(flags, key);
-    m_items.push_back({commandNumber, normalFlags(flags), key, identifier ? identifier : L"",
-                       name ? name : L""});
+    m_items.push_back(
+        {commandNumber, normalFlags(flags), key, identifier ? identifier : L"", name ? name : L""});
     return true;
 }
 
@@ -134,8 +134,9 @@ bool CShortCutSetting::isSame(const CShortCutSetting& other) const
     };
     const std::vector<SShortCut> mine = sorted(m_items);
     const std::vector<SShortCut> theirs = sorted(other.m_items);
-    return std::equal(mine.begin(), mine.end(), theirs.begin(),
-                      [](const SShortCut& a, const SShortCut& b) { return sortKey(a) == sortKey(b); });
+    return std::equal(
+        mine.begin(), mine.end(), theirs.begin(),
+        [](const SShortCut& a, const SShortCut& b) { return sortKey(a) == sortKey(b); });
 }
 
 bool CShortCutSetting::loadXMLNode(const QDomElement& element)

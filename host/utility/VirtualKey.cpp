@@ -120,7 +120,7 @@ const KeyPair kMainKeys[] = {
 // Keys that differ when they come from the keypad; the keypad's navigation keys (Num Lock off)
 // are the same keys as the navigation block's.
 const KeyPair kKeypadKeys[] = {
-    {Qt::Key_Asterisk, VK_MULTIPLY}, {Qt::Key_Plus, VK_ADD},     {Qt::Key_Comma, 0x6C},
+    {Qt::Key_Asterisk, VK_MULTIPLY}, {Qt::Key_Plus, VK_ADD},       {Qt::Key_Comma, 0x6C},
     {Qt::Key_Minus, VK_SUBTRACT},    {Qt::Key_Period, VK_DECIMAL}, {Qt::Key_Slash, VK_DIVIDE},
 };
 

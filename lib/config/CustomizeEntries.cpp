@@ -12,8 +12,9 @@ bool doShortCutDlg(setting::CShortCutSetting& setting, const utility::CCommandTa
         return false;
     setting::CShortCutSetting defaults;
     defaults.setupByTable(commands);
-    return runSettingDialog<CShortCutDlg>(setting, &defaults, CopyBack::OnChange,
-                                          [&](CShortCutDlg& dlg) { dlg.setCommandTable(commands); });
+    return runSettingDialog<CShortCutDlg>(
+        setting, &defaults, CopyBack::OnChange,
+        [&](CShortCutDlg& dlg) { dlg.setCommandTable(commands); });
 }
 
 } // namespace kesto::ui::config

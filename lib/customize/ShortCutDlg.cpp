@@ -79,7 +79,8 @@ bool CShortCutDlg::OnInitDialog()
         fillAllKeys();
         setWindowIcon(QApplication::windowIcon());
         m_edit->attach(this);
-        connect(m_tree, &QTreeWidget::itemSelectionChanged, this, [this] { OnTvnSelchangedTree(); });
+        connect(m_tree, &QTreeWidget::itemSelectionChanged, this,
+                [this] { OnTvnSelchangedTree(); });
         connect(m_allKeys, &control::CKsListCtrl::selectedRowChanged, this,
                 [this] { OnLvnItemchangedAllKeys(); });
         onClicked(IDC_ASSIGN, [this] { OnBnClickedAssign(); });
@@ -205,9 +206,9 @@ void CShortCutDlg::refreshOwner()
 void CShortCutDlg::refreshButtons()
 {
     const SKeyStroke& key = m_edit->captured();
-    const auto states = shortcut::buttonStates(selectedCommand(), key,
-                                               m_setting.findByShortCut(key.flags, key.key),
-                                               m_allKeys->getSelectedRow() >= 0);
+    const auto states =
+        shortcut::buttonStates(selectedCommand(), key, m_setting.findByShortCut(key.flags, key.key),
+                               m_allKeys->getSelectedRow() >= 0);
     GetDlgItem(IDC_ASSIGN)->setEnabled(states.assignEnabled);
     GetDlgItem(IDC_DELETE)->setEnabled(states.deleteEnabled);
 }
@@ -233,7 +234,8 @@ void CShortCutDlg::OnTvnSelchangedTree()
         fillCurrentKeys(number);
         const SKeyStroke& key = m_edit->captured();
         if (key.key != 0
-            && m_allKeys->findRow(shortcut::ColumnKey, utility::keys::keyStrokeText(key.flags, key.key))
+            && m_allKeys->findRow(shortcut::ColumnKey,
+                                  utility::keys::keyStrokeText(key.flags, key.key))
                    >= 0)
             m_edit->clearCapture();
         refreshButtons();

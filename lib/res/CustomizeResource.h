@@ -5,8 +5,8 @@
 namespace kesto::ui::config::res {
 
 enum CustomizeTemplate : int {
-    IDD_SHORTCUT = 2086,         // "ショートカットキーの設定"
-    IDD_MOUSE = 2096,            // "マウスの設定"
+    IDD_SHORTCUT = 2086, // "ショートカットキーの設定"
+    IDD_MOUSE = 2096,    // "マウスの設定"
     IDD_MOUSE_RIGHT_BUTTON = 2097,
     IDD_MOUSE_BOTH_BUTTONS = 2098,
     IDD_MOUSE_WHEEL = 2099,

@@ -6,6 +6,7 @@
 #include "core/Application.h"
 #include "framework/KsDialog.h"
 
+#include <QTabBar>
 #include <QTreeWidget>
 
 namespace kesto::workbench {
@@ -35,6 +36,15 @@ void chooseSaveCommand(ui::framework::CKsDialog& dialog)
         tree->setCurrentItem(found.first());
 }
 
+// The mouse dialog on another tab of its inner strip.
+std::function<void(ui::framework::CKsDialog&)> showButtonTab(int index)
+{
+    return [index](ui::framework::CKsDialog& dialog) {
+        if (auto* tab = dialog.dlgItem<QTabBar>(8042))
+            tab->setCurrentIndex(index);
+    };
+}
+
 } // namespace
 
 void addCustomizeTopics(std::vector<Topic>& topics)
@@ -48,6 +58,17 @@ void addCustomizeTopics(std::vector<Topic>& topics)
             return ui::config::doShortCutDlg(setting, commandTable());
         },
         {{QString(), {}}, {QStringLiteral("command"), chooseSaveCommand}}));
+
+    using ui::setting::CMouseSetting;
+    topics.push_back(makeSettingTopic<CMouseSetting>(
+        group, QStringLiteral("マウスの設定"), QStringLiteral("mouse"), &CMouseSetting::makeDefault,
+        [](CMouseSetting& setting, const CMouseSetting& defaults) {
+            return ui::config::doMouseDlg(
+                setting, defaults, mouseCommandFile().toStdWString().c_str(), commandTable());
+        },
+        {{QString(), {}},
+         {QStringLiteral("both-buttons"), showButtonTab(1)},
+         {QStringLiteral("wheel"), showButtonTab(2)}}));
 }
 
 } // namespace kesto::workbench

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "KsSystemConfigDlgExport.h"
+#include "setting/MouseSetting.h"
 #include "setting/ShortCutSetting.h"
 
 namespace kesto::utility {
@@ -14,5 +15,13 @@ namespace kesto::ui::config {
 // confirmed a real change, and only then is setting replaced. False without a command table.
 KSCONFIGDLG_EXPORT bool doShortCutDlg(setting::CShortCutSetting& setting,
                                       const utility::CCommandTable* commands);
+
+// "マウスの設定"; commandFile names the candidate-command file (a missing or unreadable file
+// leaves the candidates empty). True when the user confirmed, and only then is setting changed.
+// False without a command table.
+KSCONFIGDLG_EXPORT bool doMouseDlg(setting::CMouseSetting& setting,
+                                   const setting::CMouseSetting& defaults,
+                                   const wchar_t* commandFile,
+                                   const utility::CCommandTable* commands);
 
 } // namespace kesto::ui::config

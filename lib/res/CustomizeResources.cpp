@@ -2,6 +2,11 @@
 #include "res/ResourceTables.h"
 
 #include "ui_2086.h"
+#include "ui_2096.h"
+#include "ui_2097.h"
+#include "ui_2098.h"
+#include "ui_2099.h"
+#include "ui_2100.h"
 
 #include <iterator>
 
@@ -38,7 +43,12 @@ const framework::StringEntry kStrings[] = {
 bool registerCustomizeResources(framework::ResourceModule& module)
 {
     return module.addStrings(kStrings, std::size(kStrings))
-           && module.addLayout(IDD_SHORTCUT, &buildLayout<Ui::Dlg2086>);
+           && module.addLayout(IDD_SHORTCUT, &buildLayout<Ui::Dlg2086>)
+           && module.addLayout(IDD_MOUSE, &buildLayout<Ui::Dlg2096>)
+           && module.addLayout(IDD_MOUSE_RIGHT_BUTTON, &buildLayout<Ui::Dlg2097>)
+           && module.addLayout(IDD_MOUSE_BOTH_BUTTONS, &buildLayout<Ui::Dlg2098>)
+           && module.addLayout(IDD_MOUSE_WHEEL, &buildLayout<Ui::Dlg2099>)
+           && module.addLayout(IDD_MOUSE_SIMPLE, &buildLayout<Ui::Dlg2100>);
 }
 
 } // namespace kesto::ui::config::res

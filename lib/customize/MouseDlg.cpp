@@ -9,6 +9,7 @@
 #include "framework/MessageBox.h"
 #include "res/CustomizeResource.h"
 
+#include <QLayout>
 #include <QStackedLayout>
 #include <QTabBar>
 
@@ -63,6 +64,7 @@ bool CMouseDlg::OnInitDialog()
         onClicked(IDC_RESET, [this] { OnBnClickedReset(); });
         onClicked(IDC_MOUSE_HELP, [this] { OnBnClickedHelp(); });
         showPage();
+        layout()->activate(); // the pages' sizes count before the window exists
         core::Application::getInstance()->dialogs().announce(kRegistryName, this);
         return true;
     });

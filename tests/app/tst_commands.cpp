@@ -2,6 +2,7 @@
 #include "support/TestSupport.h"
 
 #include "CommandActions.h"
+#include "Screenshots.h"
 #include "Session.h"
 #include "WorkbenchWindow.h"
 
@@ -9,13 +10,19 @@
 #include "command/CommandTree.h"
 #include "core/Application.h"
 #include "framework/ModalHook.h"
+#include "setting/MouseSetting.h"
 #include "setting/ShortCutSetting.h"
 
 #include <QAction>
+#include <QComboBox>
+#include <QDir>
 #include <QFile>
+#include <QImage>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QSignalSpy>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -170,6 +177,55 @@ private slots:
             L"ID_SETTING_SHORTCUT");
         bench.window->commands()->actionOf(command->number)->trigger();
         QCOMPARE(opened, QStringList{"ショートカットキーの設定"});
+    }
+
+    void theMouseTopicRoundTripsThroughItsFile()
+    {
+        test::HostFixture host;
+        CommandTableLoaded table;
+        const Topic* mouseTopic = nullptr;
+        {
+            Workbench bench(host.folder());
+            mouseTopic = bench.session.findTopic(QStringLiteral("mouse"));
+            QVERIFY(mouseTopic);
+            ScopedModalDrivers drivers([](CKsDialog& d) {
+                // The shipped candidates are offered, by their names in the command table.
+                QListWidget* commands = nullptr; // the list of the page on show
+                for (auto* list : d.findChildren<QListWidget*>(QStringLiteral("commandList")))
+                    commands = list->isVisible() ? list : commands;
+                QVERIFY(commands && commands->count() > 20);
+                QCOMPARE(commands->item(0)->text(), QStringLiteral("元に戻す"));
+                auto* tab = d.dlgItem<QTabBar>(8042);
+                tab->setCurrentIndex(2);
+                auto* wheel = d.findChild<QComboBox*>(QStringLiteral("comboRotate"));
+                wheel->setCurrentIndex(2);
+                QVERIFY(test::click(d, 1));
+            });
+            bool changed = false;
+            QString error;
+            QVERIFY(bench.session.openTopic(*mouseTopic, &changed, &error));
+            QVERIFY(changed);
+        }
+        Workbench restarted(host.folder());
+        const auto* mouse = restarted.config->getSetting<ui::setting::CMouseSetting>();
+        QCOMPARE(mouse->getMouseSetting(L"2DView")->wheelRotate, 2);
+    }
+
+    void theCustomisationDialogsAreRendered()
+    {
+        test::HostFixture host;
+        CommandTableLoaded table;
+        Workbench bench(host.folder());
+        QString error;
+        const QString dir = host.path(QStringLiteral("shots"));
+        const QStringList files = renderTopicScreenshots(bench.session, dir, &error);
+        for (const char* name : {"shortcut-keys", "shortcut-keys-command", "mouse",
+                                 "mouse-both-buttons", "mouse-wheel"}) {
+            const QString file = QDir(dir).filePath(QString::fromLatin1(name) + ".png");
+            QVERIFY2(files.contains(file), name);
+            QVERIFY(QImage(file).width() > 400);
+        }
+        QVERIFY(!QFile::exists(host.path(QStringLiteral("ShortCutSetting.xml"))));
     }
 
     void cancelKeepsTheKeysAsTheyWere()

@@ -6,6 +6,8 @@
 #include "core/Application.h"
 #include "framework/KsDialog.h"
 
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QTabBar>
 #include <QTreeWidget>
 
@@ -25,15 +27,20 @@ ui::setting::CShortCutSetting defaultShortCuts()
     return setting;
 }
 
-// The shortcut dialog with a command chosen in the tree, as a user starts.
-void chooseSaveCommand(ui::framework::CKsDialog& dialog)
+// The shortcut dialog as a user binds a key: a command chosen, a key pressed that another
+// command owns.
+void captureKeyOfAnotherCommand(ui::framework::CKsDialog& dialog)
 {
     auto* tree = dialog.dlgItem<QTreeWidget>(8001);
     const auto found =
-        tree ? tree->findItems(QStringLiteral("上書き保存"), Qt::MatchExactly | Qt::MatchRecursive)
+        tree ? tree->findItems(QStringLiteral("線分"), Qt::MatchExactly | Qt::MatchRecursive)
              : QList<QTreeWidgetItem*>();
     if (!found.isEmpty())
         tree->setCurrentItem(found.first());
+    if (QWidget* edit = dialog.GetDlgItem(8002)) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_S, Qt::ControlModifier);
+        QCoreApplication::sendEvent(edit, &press);
+    }
 }
 
 // The mouse dialog on another tab of its inner strip.
@@ -57,7 +64,7 @@ void addCustomizeTopics(std::vector<Topic>& topics)
         [](CShortCutSetting& setting, const CShortCutSetting&) {
             return ui::config::doShortCutDlg(setting, commandTable());
         },
-        {{QString(), {}}, {QStringLiteral("command"), chooseSaveCommand}}));
+        {{QString(), {}}, {QStringLiteral("capture"), captureKeyOfAnotherCommand}}));
 
     using ui::setting::CMouseSetting;
     topics.push_back(makeSettingTopic<CMouseSetting>(

@@ -219,7 +219,7 @@ private slots:
         QString error;
         const QString dir = host.path(QStringLiteral("shots"));
         const QStringList files = renderTopicScreenshots(bench.session, dir, &error);
-        for (const char* name : {"shortcut-keys", "shortcut-keys-command", "mouse",
+        for (const char* name : {"shortcut-keys", "shortcut-keys-capture", "mouse",
                                  "mouse-both-buttons", "mouse-wheel"}) {
             const QString file = QDir(dir).filePath(QString::fromLatin1(name) + ".png");
             QVERIFY2(files.contains(file), name);

@@ -65,5 +65,6 @@ std::vector<SettingFactory> hostSettings();
 
 // Per subsystem.
 void addSystemTopics(std::vector<Topic>& topics);
+void addCustomizeTopics(std::vector<Topic>& topics);
 
 } // namespace kesto::workbench

@@ -10,6 +10,7 @@ std::vector<Topic> allTopics()
 {
     std::vector<Topic> topics;
     addSystemTopics(topics);
+    addCustomizeTopics(topics);
     return topics;
 }
 

@@ -1,9 +1,14 @@
 #include "WorkbenchWindow.h"
 
+#include "CommandActions.h"
 #include "Session.h"
+
+#include "core/Application.h"
+#include "setting/ShortCutSetting.h"
 
 #include <QAction>
 #include <QFileDialog>
+#include <QHash>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenuBar>
@@ -34,6 +39,7 @@ WorkbenchWindow::WorkbenchWindow(Session& session, QWidget* parent)
     layout->addWidget(openButton, 0, Qt::AlignRight);
     setCentralWidget(central);
     buildMenus();
+    buildCommandMenu();
     buildTopicTree();
     connect(openButton, &QPushButton::clicked, this, &WorkbenchWindow::openSelectedTopic);
     connect(m_tree, &QTreeWidget::itemActivated, this, &WorkbenchWindow::openSelectedTopic);
@@ -92,6 +98,55 @@ void WorkbenchWindow::openTopic(const Topic& topic)
                                  ? QStringLiteral("「%1」を保存しました。").arg(topic.title)
                                  : QStringLiteral("「%1」は変更されていません。").arg(topic.title),
                              5000);
+    applyShortCuts();
+}
+
+void WorkbenchWindow::buildCommandMenu()
+{
+    const utility::CCommandTable* table = core::Application::getInstance()->getCommandTable();
+    if (!table)
+        return;
+    m_commands = new CommandActions(*this, *table);
+    m_commands->fillMenu(*menuBar()->addMenu(QStringLiteral("コマンド(&C)")));
+    connect(m_commands, &CommandActions::commandRun, this,
+            [this](int, const QString& id, const QString& name) { showCommandRun(id, name); });
+    applyShortCuts();
+}
+
+// The keys the user set in "ショートカットキーの設定".
+void WorkbenchWindow::applyShortCuts()
+{
+    const core::CSystemConfig* config = core::Application::getInstance()->getSystemConfig();
+    const auto* shortCuts = config ? config->getSetting<ui::setting::CShortCutSetting>() : nullptr;
+    if (m_commands && shortCuts)
+        m_commands->applyShortCuts(*shortCuts);
+}
+
+void WorkbenchWindow::showCommandRun(const QString& id, const QString& name)
+{
+    statusBar()->showMessage(QStringLiteral("コマンド「%1」(%2) を実行しました。").arg(name, id),
+                             5000);
+    core::Application::getInstance()->log().info(
+        QStringLiteral("command run: %1 %2").arg(id, name));
+    runOwnCommand(id);
+}
+
+// Commands the workbench itself can carry out; the others are only reported.
+void WorkbenchWindow::runOwnCommand(const QString& id)
+{
+    static const QHash<QString, QString> topics = {
+        {QStringLiteral("ID_SETTING_SCALE"), QStringLiteral("system-scale")},
+        {QStringLiteral("ID_SETTING_SHORTCUT"), QStringLiteral("shortcut-keys")},
+        {QStringLiteral("ID_SETTING_MOUSE"), QStringLiteral("mouse")},
+    };
+    if (const Topic* topic = m_session.findTopic(topics.value(id)))
+        openTopic(*topic);
+    else if (id == u"ID_FILE_OPEN")
+        chooseDrawing();
+    else if (id == u"ID_FILE_CLOSE")
+        closeDrawing();
+    else if (id == u"ID_APP_EXIT")
+        close();
 }
 
 void WorkbenchWindow::chooseDrawing()

@@ -8,6 +8,7 @@ class QTreeWidgetItem;
 
 namespace kesto::workbench {
 
+class CommandActions;
 class Session;
 struct Topic;
 
@@ -20,6 +21,8 @@ public:
 
     void openTopic(const Topic& topic);
     void openDrawing(const QString& path);
+    // The commands of the "コマンド" menu; null when the host has no command table.
+    CommandActions* commands() const { return m_commands; }
 
 private:
     void buildMenus();
@@ -28,10 +31,15 @@ private:
     void chooseDrawing();
     void closeDrawing();
     void showDrawingState();
+    void buildCommandMenu();
+    void applyShortCuts();
+    void showCommandRun(const QString& id, const QString& name);
+    void runOwnCommand(const QString& id);
 
     Session& m_session;
     QTreeWidget* m_tree = nullptr;
     QLabel* m_drawingLabel = nullptr;
+    CommandActions* m_commands = nullptr;
 };
 
 } // namespace kesto::workbench

@@ -1,3 +1,4 @@
+#include "CommandActions.h"
 #include "Screenshots.h"
 #include "Session.h"
 #include "WorkbenchWindow.h"
@@ -49,6 +50,8 @@ std::shared_ptr<core::CSystemConfig> setUpHost(const QString& settingsFolder)
     if (!ui::tooltip::ToolTipCatalog::instance().loadXML(QStringLiteral(":/kesto/tooltips.xml"),
                                                          &error))
         host->log().warning(QStringLiteral("tool tips not loaded: %1").arg(error));
+    if (!workbench::loadCommandTable(workbench::commandTableFile(), &error))
+        host->log().error(QStringLiteral("command table not loaded: %1").arg(error));
     host->setUserDataFolder(
         QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdWString());
     return config;

@@ -4,3 +4,4 @@
 #include "config/DialogData.h"
 #include "config/LibraryModule.h"
 #include "config/SystemEntries.h"
+#include "config/CustomizeEntries.h"

@@ -10,6 +10,10 @@
 #include <memory>
 #include <string>
 
+namespace kesto::utility {
+class CCommandTable;
+}
+
 namespace kesto::core {
 
 class IMainFrame;
@@ -51,6 +55,13 @@ public:
     // Replaces how topics are shown; returns the previous handler.
     HelpHandler setHelpHandler(HelpHandler handler);
 
+    // The application's command table; absent until the host has loaded one.
+    const utility::CCommandTable* getCommandTable() const { return m_commandTable.get(); }
+    void setCommandTable(std::shared_ptr<const utility::CCommandTable> table)
+    {
+        m_commandTable = std::move(table);
+    }
+
 private:
     Application();
     void openHelpPage(const QString& topic);
@@ -64,6 +75,7 @@ private:
     DialogRegistry m_dialogs;
     HelpHandler m_helpHandler;
     std::uint32_t m_backgroundColor = 0x000000;
+    std::shared_ptr<const utility::CCommandTable> m_commandTable;
 };
 
 } // namespace kesto::core

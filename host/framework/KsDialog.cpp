@@ -102,7 +102,7 @@ QWidget* CKsDialog::GetDlgItem(int id) const
         indexControls();
         it = m_controls.constFind(id);
     }
-    return it == m_controls.constEnd() ? nullptr : it.value();
+    return it == m_controls.constEnd() ? nullptr : it.value().data();
 }
 
 void CKsDialog::indexControls() const

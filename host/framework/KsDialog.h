@@ -4,6 +4,7 @@
 
 #include <QDialog>
 #include <QHash>
+#include <QPointer>
 
 #include <functional>
 
@@ -68,7 +69,8 @@ private:
     bool m_ended = false;
     bool m_firstSizeIsMinimum = false;
     QString m_placementKey;
-    mutable QHash<int, QWidget*> m_controls;
+    // Guarded: a control deleted after it was looked up is looked up again.
+    mutable QHash<int, QPointer<QWidget>> m_controls;
 };
 
 // The number a control carries in its layout (property "ctrlId"), 0 for none.

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "config/ModalProtocol.h"
+#include "customize/MouseRules.h"
+#include "setting/MouseCommands.h"
+#include "setting/MouseSetting.h"
+
+#include <array>
+#include <vector>
+
+class QTabBar;
+
+namespace kesto::utility {
+class CCommandTable;
+}
+
+namespace kesto::ui::config {
+
+class CMousePage;
+class CSimplePage;
+
+// "マウスの設定": the right button's shortcut menu, both buttons and the wheel, per view. Two
+// tab strips choose the page; edits stay in the pages until OK.
+class CMouseDlg : public TSettingDialog<setting::CMouseSetting> {
+    Q_OBJECT
+
+public:
+    CMouseDlg();
+    ~CMouseDlg() override;
+
+    void setCommandTable(const utility::CCommandTable* commands) { m_commands = commands; }
+    // Reads the candidate commands of the views from the file.
+    void loadMouseCommands(const std::wstring& path);
+    void setMouseCommands(std::vector<setting::SMouseCommands> list) { m_mouseCommands = list; }
+    bool isTwoDimensionalOnly() const { return m_twoDimensionalOnly; }
+
+    // A page, or null when it is not built (3-D pages in a two-dimensional-only dialog).
+    CMousePage* page(mouse::EPage page) const { return m_pages[page]; }
+    mouse::EPage shownPage() const { return m_shownPage; }
+
+protected:
+    bool OnInitDialog() override;
+    void OnOK() override;
+
+private:
+    bool createPages();
+    CSimplePage* createSimplePage(int captionsId);
+    void setupViewTabs();
+    void fillButtonTabs();
+    void loadPages();
+    void storePages();
+    void showPage();
+
+    void OnTcnSelchangeViewTab();
+    void OnTcnSelchangeButtonTab();
+    void OnBnClickedReset();
+    void OnBnClickedHelp();
+
+    const utility::CCommandTable* m_commands = nullptr;
+    std::vector<setting::SMouseCommands> m_mouseCommands;
+    bool m_twoDimensionalOnly = false;
+    bool m_fillingTabs = false;
+    std::array<CMousePage*, mouse::PageCount> m_pages{};
+    mouse::EPage m_shownPage = mouse::Right2D;
+
+    QTabBar* m_viewTab = nullptr;
+    QTabBar* m_buttonTab = nullptr;
+};
+
+} // namespace kesto::ui::config

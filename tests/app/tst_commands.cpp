@@ -1,0 +1,255 @@
+// The workbench runs its commands by the keys the user set in "ショートカットキーの設定".
+#include "support/TestSupport.h"
+
+#include "CommandActions.h"
+#include "Screenshots.h"
+#include "Session.h"
+#include "WorkbenchWindow.h"
+
+#include "command/CommandTable.h"
+#include "command/CommandTree.h"
+#include "core/Application.h"
+#include "framework/ModalHook.h"
+#include "setting/MouseSetting.h"
+#include "setting/ShortCutSetting.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QTest>
+#include <QTreeWidget>
+
+using namespace kesto;
+using namespace kesto::workbench;
+using ui::framework::CKsDialog;
+using ui::framework::ScopedModalDrivers;
+
+namespace {
+
+struct Workbench {
+    std::shared_ptr<core::CSystemConfig> config = std::make_shared<core::CSystemConfig>();
+    Session session;
+    std::unique_ptr<WorkbenchWindow> window;
+    bool active = false;
+
+    explicit Workbench(const QString& folder)
+        : session(allTopics(), config, SettingsStore(folder))
+    {
+        config->setSettingFolder(folder.toStdWString());
+        core::Application::getInstance()->setSystemConfig(config);
+        session.load();
+        window = std::make_unique<WorkbenchWindow>(session);
+        window->show();
+        window->activateWindow();
+        active = QTest::qWaitForWindowActive(window.get());
+    }
+    ~Workbench() { core::Application::getInstance()->setSystemConfig(nullptr); }
+
+    QWidget* focusTarget() const { return window->findChild<QTreeWidget*>(); }
+    const Topic& shortCutTopic() const
+    {
+        return *session.findTopic(QStringLiteral("shortcut-keys"));
+    }
+    QString status() const { return window->statusBar()->currentMessage(); }
+};
+
+struct CommandTableLoaded {
+    CommandTableLoaded()
+    {
+        QString error;
+        loaded = loadCommandTable(commandTableFile(), &error);
+        if (!loaded)
+            qWarning("%s", qPrintable(error));
+    }
+    ~CommandTableLoaded() { core::Application::getInstance()->setCommandTable(nullptr); }
+    bool loaded = false;
+};
+
+// In the shortcut dialog: the command of the given name gets the key.
+ui::framework::ModalHook::Driver bind(const QString& command, Qt::Key key,
+                                      Qt::KeyboardModifiers modifiers = {})
+{
+    return [=](CKsDialog& d) {
+        auto* tree = d.dlgItem<QTreeWidget>(8001);
+        const auto found = tree->findItems(command, Qt::MatchExactly | Qt::MatchRecursive);
+        QCOMPARE(found.size(), 1);
+        tree->setCurrentItem(found.first());
+        auto* edit = d.dlgItem<QLineEdit>(8002);
+        edit->setFocus();
+        QTest::keyClick(edit, key, modifiers);
+        QVERIFY(test::click(d, 7501));
+        QVERIFY(test::click(d, 1));
+    };
+}
+
+} // namespace
+
+class TestCommands : public QObject {
+    Q_OBJECT
+
+private slots:
+    void theDefaultKeysRunTheirCommands()
+    {
+        test::HostFixture host;
+        CommandTableLoaded table;
+        QVERIFY(table.loaded);
+        Workbench bench(host.folder());
+        QSignalSpy runs(bench.window->commands(), &CommandActions::commandRun);
+        QTest::keyClick(bench.focusTarget(), Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(runs.size(), 1);
+        QCOMPARE(runs.at(0).at(1).toString(), QStringLiteral("ID_FILE_SAVE"));
+        QVERIFY(bench.status().contains(QStringLiteral("上書き保存")));
+        QVERIFY(host.log().contains(core::LogLevel::Information,
+                                    QStringLiteral("command run: ID_FILE_SAVE 上書き保存")));
+        QTest::keyClick(bench.focusTarget(), Qt::Key_F12);
+        QCOMPARE(runs.size(), 1); // F12 is nobody's
+        const utility::SCommand* save =
+            core::Application::getInstance()->getCommandTable()->findCommand(L"ID_FILE_SAVE");
+        QCOMPARE(bench.window->commands()->actionOf(save->number)->text(),
+                 QStringLiteral("上書き保存\tCtrl+S"));
+    }
+
+    void aKeyBoundInTheDialogRunsItsCommandAfterOk()
+    {
+        test::HostFixture host;
+        CommandTableLoaded table;
+        {
+            Workbench bench(host.folder());
+            QSignalSpy runs(bench.window->commands(), &CommandActions::commandRun);
+            ScopedModalDrivers drivers(bind(QStringLiteral("線分"), Qt::Key_F12));
+            bench.window->openTopic(bench.shortCutTopic());
+            QVERIFY(QFile::exists(host.path(QStringLiteral("ShortCutSetting.xml"))));
+            QTest::keyClick(bench.focusTarget(), Qt::Key_F12);
+            QCOMPARE(runs.size(), 1);
+            QCOMPARE(runs.at(0).at(1).toString(), QStringLiteral("ID_DRAW_LINE"));
+            QVERIFY(bench.status().contains(QStringLiteral("線分")));
+            QVERIFY(host.log().contains(core::LogLevel::Information,
+                                        QStringLiteral("command run: ID_DRAW_LINE 線分")));
+        }
+        Workbench restarted(host.folder());
+        QSignalSpy runs(restarted.window->commands(), &CommandActions::commandRun);
+        QTest::keyClick(restarted.focusTarget(), Qt::Key_F12);
+        QCOMPARE(runs.size(), 1);
+        QCOMPARE(runs.at(0).at(1).toString(), QStringLiteral("ID_DRAW_LINE"));
+    }
+
+    void aMovedKeyRunsOnlyItsNewCommandAndBeatsTheWindowsOwnShortcut()
+    {
+        test::HostFixture host;
+        CommandTableLoaded table;
+        Workbench bench(host.folder());
+        QVERIFY(bench.active); // the window's own shortcuts are live
+        QSignalSpy runs(bench.window->commands(), &CommandActions::commandRun);
+        ScopedModalDrivers drivers;
+        drivers.add(bind(QStringLiteral("線分"), Qt::Key_S, Qt::ControlModifier));
+        drivers.add(bind(QStringLiteral("円 (中心・半径)"), Qt::Key_Q, Qt::ControlModifier));
+        bench.window->openTopic(bench.shortCutTopic());
+        bench.window->openTopic(bench.shortCutTopic());
+        auto* own = new QAction(bench.window.get()); // a shortcut of the window itself
+        own->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+        bench.window->addAction(own);
+        QSignalSpy ownRuns(own, &QAction::triggered);
+        QTest::keyClick(bench.focusTarget(), Qt::Key_S, Qt::ControlModifier);
+        QTest::keyClick(bench.focusTarget(), Qt::Key_Q, Qt::ControlModifier);
+        QCOMPARE(runs.size(), 2);
+        QCOMPARE(runs.at(0).at(1).toString(), QStringLiteral("ID_DRAW_LINE"));
+        QCOMPARE(runs.at(1).at(1).toString(), QStringLiteral("ID_DRAW_CIRCLE_CENTER"));
+        QCOMPARE(ownRuns.size(), 0);
+        QTest::keyClick(bench.focusTarget(), Qt::Key_Q, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(runs.size(), 2); // Ctrl+Shift+Q is nobody's
+    }
+
+    void settingCommandsOpenTheirDialogs()
+    {
+        test::HostFixture host;
+        CommandTableLoaded table;
+        Workbench bench(host.folder());
+        QStringList opened;
+        ScopedModalDrivers drivers([&](CKsDialog& d) { opened << d.windowTitle(); });
+        const auto* command = core::Application::getInstance()->getCommandTable()->findCommand(
+            L"ID_SETTING_SHORTCUT");
+        bench.window->commands()->actionOf(command->number)->trigger();
+        QCOMPARE(opened, QStringList{"ショートカットキーの設定"});
+    }
+
+    void theMouseTopicRoundTripsThroughItsFile()
+    {
+        test::HostFixture host;
+        CommandTableLoaded table;
+        const Topic* mouseTopic = nullptr;
+        {
+            Workbench bench(host.folder());
+            mouseTopic = bench.session.findTopic(QStringLiteral("mouse"));
+            QVERIFY(mouseTopic);
+            ScopedModalDrivers drivers([](CKsDialog& d) {
+                // The shipped candidates are offered, by their names in the command table.
+                QListWidget* commands = nullptr; // the list of the page on show
+                for (auto* list : d.findChildren<QListWidget*>(QStringLiteral("commandList")))
+                    commands = list->isVisible() ? list : commands;
+                QVERIFY(commands && commands->count() > 20);
+                QCOMPARE(commands->item(0)->text(), QStringLiteral("元に戻す"));
+                auto* tab = d.dlgItem<QTabBar>(8042);
+                tab->setCurrentIndex(2);
+                auto* wheel = d.findChild<QComboBox*>(QStringLiteral("comboRotate"));
+                wheel->setCurrentIndex(2);
+                QVERIFY(test::click(d, 1));
+            });
+            bool changed = false;
+            QString error;
+            QVERIFY(bench.session.openTopic(*mouseTopic, &changed, &error));
+            QVERIFY(changed);
+        }
+        Workbench restarted(host.folder());
+        const auto* mouse = restarted.config->getSetting<ui::setting::CMouseSetting>();
+        QCOMPARE(mouse->getMouseSetting(L"2DView")->wheelRotate, 2);
+    }
+
+    void theCustomisationDialogsAreRendered()
+    {
+        test::HostFixture host;
+        CommandTableLoaded table;
+        Workbench bench(host.folder());
+        QString error;
+        const QString dir = host.path(QStringLiteral("shots"));
+        const QStringList files = renderTopicScreenshots(bench.session, dir, &error);
+        for (const char* name : {"shortcut-keys", "shortcut-keys-capture", "mouse",
+                                 "mouse-both-buttons", "mouse-wheel"}) {
+            const QString file = QDir(dir).filePath(QString::fromLatin1(name) + ".png");
+            QVERIFY2(files.contains(file), name);
+            QVERIFY(QImage(file).width() > 400);
+        }
+        QVERIFY(!QFile::exists(host.path(QStringLiteral("ShortCutSetting.xml"))));
+    }
+
+    void cancelKeepsTheKeysAsTheyWere()
+    {
+        test::HostFixture host;
+        CommandTableLoaded table;
+        Workbench bench(host.folder());
+        QSignalSpy runs(bench.window->commands(), &CommandActions::commandRun);
+        ScopedModalDrivers drivers([](CKsDialog& d) {
+            auto* tree = d.dlgItem<QTreeWidget>(8001);
+            tree->setCurrentItem(
+                tree->findItems(QStringLiteral("線分"), Qt::MatchExactly | Qt::MatchRecursive)
+                    .first());
+            auto* edit = d.dlgItem<QLineEdit>(8002);
+            QTest::keyClick(edit, Qt::Key_F12);
+            QVERIFY(test::click(d, 7501));
+            QVERIFY(test::click(d, 2));
+        });
+        bench.window->openTopic(bench.shortCutTopic());
+        QVERIFY(!QFile::exists(host.path(QStringLiteral("ShortCutSetting.xml"))));
+        QTest::keyClick(bench.focusTarget(), Qt::Key_F12);
+        QCOMPARE(runs.size(), 0);
+    }
+};
+
+QTEST_MAIN(TestCommands)
+#include "tst_commands.moc"

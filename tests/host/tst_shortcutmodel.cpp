@@ -1,0 +1,370 @@
+// Keys as shortcuts store them, the shortcut setting, the command table with its shipped file,
+// and the command tree.
+#include "support/TestSupport.h"
+
+#include "command/CommandTable.h"
+#include "command/CommandTree.h"
+#include "setting/ShortCutSetting.h"
+#include "utility/VirtualKey.h"
+
+#include <QDomDocument>
+#include <QFile>
+#include <QKeyEvent>
+#include <QSet>
+#include <QTest>
+#include <QTreeWidget>
+
+using namespace kesto;
+using namespace kesto::utility::keys;
+using ui::setting::CShortCutSetting;
+using ui::setting::SShortCut;
+using utility::CCommandTable;
+
+namespace {
+
+const std::uint16_t kCtrl = FVIRTKEY | FCONTROL;
+
+QString shippedTable()
+{
+    return QStringLiteral(KS_SOURCE_DIR "/app/resources/commands.xml");
+}
+
+bool loadTableText(CCommandTable& table, const QString& text, QString* error = nullptr)
+{
+    QDomDocument doc;
+    if (!doc.setContent(text))
+        return false;
+    return table.loadXMLNode(doc.documentElement(), error);
+}
+
+CCommandTable smallTable()
+{
+    CCommandTable table;
+    const bool ok = loadTableText(table, QStringLiteral(R"(<CommandTable>
+        <Group name="ファイル">
+          <Command number="10" id="ID_FILE_SAVE" name="上書き保存" keys="Ctrl+S"/>
+          <Command number="11" id="ID_FILE_MRU1" name="最近のファイル" keyBindable="0"/>
+        </Group>
+        <Group name="3D">
+          <Command number="20" id="ID_3D_BOX" name="直方体" frames="3d" keys="Ctrl+S | F12"/>
+        </Group>
+        <Group name="空"/>
+        <Group name="朱書き">
+          <Command number="30" id="ID_RED_CLOUD" name="雲マーク" frames="red" keys="F12"/>
+        </Group></CommandTable>)"));
+    Q_ASSERT(ok);
+    return table;
+}
+
+QStringList keyTexts(const CShortCutSetting& setting)
+{
+    QStringList out;
+    for (const SShortCut& s : setting.items())
+        out << QString::fromStdWString(s.makeShortCutSz()) + u'='
+                   + QString::number(s.commandNumber);
+    return out;
+}
+
+} // namespace
+
+class TestShortCutModel : public QObject {
+    Q_OBJECT
+
+private slots:
+    void qtKeysMapToVirtualKeys_data()
+    {
+        QTest::addColumn<int>("qtKey");
+        QTest::addColumn<int>("modifiers");
+        QTest::addColumn<int>("vk");
+        const int keypad = Qt::KeypadModifier;
+        const int shift = Qt::ShiftModifier;
+        QTest::newRow("letter") << int(Qt::Key_S) << 0 << 0x53;
+        QTest::newRow("shifted letter") << int(Qt::Key_Z) << shift << 0x5A;
+        QTest::newRow("digit") << int(Qt::Key_7) << 0 << 0x37;
+        QTest::newRow("shift+1 reports !") << int(Qt::Key_Exclam) << shift << 0x31;
+        QTest::newRow("shift+0 reports )") << int(Qt::Key_ParenRight) << shift << 0x30;
+        QTest::newRow("F1") << int(Qt::Key_F1) << 0 << 0x70;
+        QTest::newRow("F13") << int(Qt::Key_F13) << 0 << 0x7C;
+        QTest::newRow("F24") << int(Qt::Key_F24) << 0 << 0x87;
+        QTest::newRow("keypad 0") << int(Qt::Key_0) << keypad << 0x60;
+        QTest::newRow("keypad 9") << int(Qt::Key_9) << keypad << 0x69;
+        QTest::newRow("keypad *") << int(Qt::Key_Asterisk) << keypad << 0x6A;
+        QTest::newRow("keypad +") << int(Qt::Key_Plus) << keypad << 0x6B;
+        QTest::newRow("keypad -") << int(Qt::Key_Minus) << keypad << 0x6D;
+        QTest::newRow("keypad .") << int(Qt::Key_Period) << keypad << 0x6E;
+        QTest::newRow("keypad /") << int(Qt::Key_Slash) << keypad << 0x6F;
+        QTest::newRow("keypad enter") << int(Qt::Key_Enter) << keypad << 0x0D;
+        QTest::newRow("keypad home (num lock off)") << int(Qt::Key_Home) << keypad << 0x24;
+        QTest::newRow("keypad 5 (num lock off)") << int(Qt::Key_Clear) << keypad << 0x0C;
+        QTest::newRow("home") << int(Qt::Key_Home) << 0 << 0x24;
+        QTest::newRow("end") << int(Qt::Key_End) << 0 << 0x23;
+        QTest::newRow("page up") << int(Qt::Key_PageUp) << 0 << 0x21;
+        QTest::newRow("page down") << int(Qt::Key_PageDown) << 0 << 0x22;
+        QTest::newRow("insert") << int(Qt::Key_Insert) << 0 << 0x2D;
+        QTest::newRow("delete") << int(Qt::Key_Delete) << 0 << 0x2E;
+        QTest::newRow("backspace") << int(Qt::Key_Backspace) << 0 << 0x08;
+        QTest::newRow("shift+tab") << int(Qt::Key_Backtab) << shift << 0x09;
+        QTest::newRow("minus") << int(Qt::Key_Minus) << 0 << 0xBD;
+        QTest::newRow("underscore") << int(Qt::Key_Underscore) << shift << 0xBD;
+        QTest::newRow("semicolon") << int(Qt::Key_Semicolon) << 0 << 0xBA;
+        QTest::newRow("colon") << int(Qt::Key_Colon) << shift << 0xBA;
+        QTest::newRow("equal") << int(Qt::Key_Equal) << 0 << 0xBB;
+        QTest::newRow("comma") << int(Qt::Key_Comma) << 0 << 0xBC;
+        QTest::newRow("period") << int(Qt::Key_Period) << 0 << 0xBE;
+        QTest::newRow("slash") << int(Qt::Key_Slash) << 0 << 0xBF;
+        QTest::newRow("grave") << int(Qt::Key_QuoteLeft) << 0 << 0xC0;
+        QTest::newRow("bracket left") << int(Qt::Key_BracketLeft) << 0 << 0xDB;
+        QTest::newRow("backslash") << int(Qt::Key_Backslash) << 0 << 0xDC;
+        QTest::newRow("yen") << int(Qt::Key_yen) << 0 << 0xDC;
+        QTest::newRow("bracket right") << int(Qt::Key_BracketRight) << 0 << 0xDD;
+        QTest::newRow("apostrophe") << int(Qt::Key_Apostrophe) << 0 << 0xDE;
+        QTest::newRow("muhenkan") << int(Qt::Key_Muhenkan) << 0 << 0x1D;
+        QTest::newRow("eisu") << int(Qt::Key_Eisu_toggle) << 0 << 0xF0;
+        QTest::newRow("windows key") << int(Qt::Key_Super_L) << 0 << 0x5B;
+        QTest::newRow("menu key") << int(Qt::Key_Menu) << 0 << 0x5D;
+        QTest::newRow("num lock") << int(Qt::Key_NumLock) << 0 << 0x90;
+        QTest::newRow("unknown") << int(Qt::Key_unknown) << 0 << 0;
+    }
+    void qtKeysMapToVirtualKeys()
+    {
+        QFETCH(int, qtKey);
+        QFETCH(int, modifiers);
+        QFETCH(int, vk);
+        QCOMPARE(int(virtualKeyOf(qtKey, Qt::KeyboardModifiers(modifiers))), vk);
+    }
+
+    void eventsGiveFlagsAndKey()
+    {
+        const QKeyEvent ctrlShiftS(QEvent::KeyPress, Qt::Key_S,
+                                   Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(keyStrokeOf(ctrlShiftS), (SKeyStroke{1 | 4 | 8, 0x53}));
+        const QKeyEvent altDel(QEvent::KeyPress, Qt::Key_Delete, Qt::AltModifier);
+        QCOMPARE(keyStrokeOf(altDel), (SKeyStroke{1 | 16, 0x2E}));
+        const QKeyEvent num5(QEvent::KeyPress, Qt::Key_5, Qt::KeypadModifier);
+        QCOMPARE(keyStrokeOf(num5), (SKeyStroke{1, 0x65}));
+    }
+
+    void keyTextsAreClear()
+    {
+        QCOMPARE(keyStrokeText(1 | 4 | 8, 'S'), QStringLiteral("Ctrl+Shift+S"));
+        QCOMPARE(keyStrokeText(1, 0x74), QStringLiteral("F5"));
+        QCOMPARE(keyStrokeText(1 | 16, 0x2E), QStringLiteral("Alt+Del"));
+        QCOMPARE(keyStrokeText(1 | 8 | 16, 0x65), QStringLiteral("Ctrl+Alt+Num 5"));
+        QCOMPARE(keyStrokeText(kCtrl, 0xBD), QStringLiteral("Ctrl+-"));
+        QCOMPARE(keyStrokeText(kCtrl, 0xE1), QStringLiteral("Ctrl+0xE1"));
+        QCOMPARE(keyStrokeText(kCtrl, 0), QString());
+        QCOMPARE(SShortCut::makeShortCutSz(9, 83), std::wstring(L"Ctrl+S"));
+    }
+
+    // Rows are found by their key text, so every key must have a text of its own that reads back.
+    void everyKeyTextIsUniqueAndReadsBack()
+    {
+        QSet<QString> seen;
+        for (std::uint16_t flags = 0; flags < 8; ++flags) {
+            const auto accel =
+                static_cast<std::uint16_t>(FVIRTKEY | (flags & 1 ? FSHIFT : 0)
+                                           | (flags & 2 ? FCONTROL : 0) | (flags & 4 ? FALT : 0));
+            for (std::uint16_t key = 1; key < 0xFF; ++key) {
+                const QString text = keyStrokeText(accel, key);
+                QVERIFY2(!seen.contains(text), qPrintable(text));
+                seen.insert(text);
+                const std::optional<SKeyStroke> back = parseKeyStroke(text);
+                QVERIFY2(back && *back == (SKeyStroke{accel, key}), qPrintable(text));
+            }
+        }
+    }
+
+    void malformedKeyTextsAreRefused()
+    {
+        for (const char* text :
+             {"", "Ctrl+", "Hyper+S", "Ctrl+Ctrl+S", "0x00", "0x1FF", "SS", "Ctrl S"})
+            QVERIFY2(!parseKeyStroke(QString::fromLatin1(text)), text);
+        QCOMPARE(*parseKeyStroke(QStringLiteral(" shift+ctrl+f5 ")), (SKeyStroke{1 | 4 | 8, 0x74}));
+        QCOMPARE(*parseKeyStroke(QStringLiteral("Ctrl+Num +")), (SKeyStroke{kCtrl, 0x6B}));
+    }
+
+    void aKeyBelongsToOneCommand()
+    {
+        CShortCutSetting setting;
+        QVERIFY(setting.addItem(kCtrl, 'S', 10, L"ID_FILE_SAVE", L"上書き保存"));
+        QVERIFY(setting.addItem(1, 0x74, 10, L"ID_FILE_SAVE", L"上書き保存"));
+        QVERIFY(setting.addItem(kCtrl, 'O', 12, L"ID_FILE_OPEN", L"開く"));
+        QVERIFY(setting.addItem(kCtrl, 'S', 20, L"ID_DRAW_LINE", L"線分")); // moves Ctrl+S
+        QCOMPARE(keyTexts(setting), QStringList({"F5=10", "Ctrl+O=12", "Ctrl+S=20"}));
+        QCOMPARE(setting.findByShortCut(kCtrl, 'S')->commandNumber, 20);
+        QCOMPARE(setting.findByShortCut(kCtrl & ~FVIRTKEY, 'S')->commandNumber, 20);
+        QVERIFY(!setting.findByShortCut(kCtrl | FSHIFT, 'S'));
+        std::vector<SShortCut> found;
+        QCOMPARE(setting.findItemsById(found, 10), 1);
+        QCOMPARE(found.front().key, std::uint16_t(0x74));
+        QVERIFY(!setting.addItem(kCtrl, 0, 10, L"ID_FILE_SAVE", L"上書き保存"));
+        QVERIFY(!setting.addItem(kCtrl, 'Q', 0, L"ID_NONE", L""));
+        QCOMPARE(setting.getCount(), 3);
+        QVERIFY(!setting.getItem(3));
+        QVERIFY(setting.deleteItem(L"Ctrl+O"));
+        QVERIFY(!setting.deleteItem(L"Ctrl+O"));
+        QVERIFY(setting.deleteItem(1, 0x74));
+        QCOMPARE(keyTexts(setting), QStringList({"Ctrl+S=20"}));
+    }
+
+    void sameBindingsInAnotherOrderAreTheSame()
+    {
+        CShortCutSetting a;
+        a.addItem(kCtrl, 'S', 10, L"ID_FILE_SAVE", L"上書き保存");
+        a.addItem(kCtrl, 'O', 12, L"ID_FILE_OPEN", L"開く");
+        CShortCutSetting b;
+        b.addItem(kCtrl, 'O', 12, L"ID_FILE_OPEN", L"開く");
+        b.addItem(kCtrl, 'S', 10, L"ID_FILE_SAVE", L"上書き保存");
+        QVERIFY(a.isSame(b));
+        b.addItem(kCtrl, 'S', 12, L"ID_FILE_OPEN", L"開く");
+        QVERIFY(!a.isSame(b));
+        b.deleteItem(kCtrl, 'S');
+        QVERIFY(!a.isSame(b));
+    }
+
+    void defaultsComeFromTheTableWithoutTakingAKeyTwice()
+    {
+        const CCommandTable table = smallTable();
+        CShortCutSetting setting;
+        setting.addItem(kCtrl, 'Q', 10, L"ID_FILE_SAVE", L"上書き保存");
+        setting.setupByTable(&table);
+        QCOMPARE(keyTexts(setting), QStringList({"Ctrl+S=10", "F12=20"}));
+        setting.setupByTable(nullptr);
+        QCOMPARE(setting.getCount(), 0);
+    }
+
+    void settingFileRoundTripsAndRefusesBrokenFiles()
+    {
+        test::HostFixture host;
+        CShortCutSetting setting;
+        setting.addItem(kCtrl | FSHIFT, 'S', 10, L"ID_FILE_SAVE_AS", L"名前を付けて保存");
+        setting.addItem(FVIRTKEY | FALT, 0x2E, 11, L"ID_EDIT_ERASE", L"削除");
+        const std::wstring path = host.path(QStringLiteral("keys.xml")).toStdWString();
+        QVERIFY(setting.saveXML(path));
+        CShortCutSetting loaded;
+        QVERIFY(loaded.loadXML(path));
+        QCOMPARE(loaded.items(), setting.items());
+
+        const char* broken[] = {
+            R"(<ShortCutSetting><ShortCut flags="9" key="83" command="1"/><ShortCut flags="9" key="83" command="2"/></ShortCutSetting>)",
+            R"(<ShortCutSetting><ShortCut flags="8" key="83" command="1"/></ShortCutSetting>)",
+            R"(<ShortCutSetting><ShortCut flags="41" key="83" command="1"/></ShortCutSetting>)",
+            R"(<ShortCutSetting><ShortCut flags="9" key="0" command="1"/></ShortCutSetting>)",
+            R"(<ShortCutSetting><ShortCut flags="9" key="300" command="1"/></ShortCutSetting>)",
+            R"(<ShortCutSetting><ShortCut flags="9" key="83" command="0"/></ShortCutSetting>)",
+            R"(<ShortCutSetting><ShortCut flags="9" key="S" command="1"/></ShortCutSetting>)",
+            R"(<ShortCutSetting><ShortCut flags="9" key="83" command="1"/>)",
+        };
+        for (const char* text : broken) {
+            QFile file(QString::fromStdWString(path));
+            QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            file.write(text);
+            file.close();
+            QVERIFY2(!loaded.loadXML(path), text);
+            QCOMPARE(loaded.items(), setting.items());
+        }
+    }
+
+    void theShippedCommandTableLoads()
+    {
+        CCommandTable table;
+        QString error;
+        QVERIFY2(table.loadXML(shippedTable().toStdWString(), &error), qPrintable(error));
+        QVERIFY(table.size() >= 300);
+        QVERIFY(table.groups().size() >= 10);
+        // The commands the mouse dialog names.
+        for (const wchar_t* id : {L"ID_VIEW_SELECT_RANGE_DISPLAY",
+                                  L"ID_VIEW_ROTATE_ELEMENT_HORIZONTALLY",
+                                  L"ID_EDIT_TEXT_CONTENTS",
+                                  L"ID_TOOL_HYPERLINK_SETUP",
+                                  L"ID_TOOL_ELEMENT_STATUS",
+                                  L"ID_EDIT_PROPERTY_COPY",
+                                  L"ID_EDIT_PROPERTY_ACTIVE",
+                                  L"ID_EDIT_MOVE_MOVE",
+                                  L"ID_EDIT_MOVE_ROTATE",
+                                  L"ID_EDIT_COPY_COPY",
+                                  L"ID_EDIT_ERASE",
+                                  L"ID_EDIT_ZORDER_TOP",
+                                  L"ID_EDIT_ZORDER_BOTTOM",
+                                  L"ID_MISC_ACTIVE_ATTRIBUTE",
+                                  L"ID_MISC_ACTIVE_SCALE",
+                                  L"ID_EDIT_CUT",
+                                  L"ID_EDIT_COPY",
+                                  L"ID_LAYER_VISIBLE",
+                                  L"ID_LAYER_INVISIBLE_THIS",
+                                  L"ID_LAYER_INVISIBLE"})
+            QVERIFY2(table.findCommand(std::wstring(id)), qPrintable(QString::fromWCharArray(id)));
+        utility::SCommand save;
+        QVERIFY(table.GetCommand(L"ID_FILE_SAVE", save));
+        QCOMPARE(save.name, std::wstring(L"上書き保存"));
+        QCOMPARE(save.defaultKeys, (std::vector<SKeyStroke>{{kCtrl, 'S'}}));
+        // Default keys are what a fresh installation binds; none may be given twice.
+        CShortCutSetting defaults;
+        defaults.setupByTable(&table);
+        std::size_t keyCount = 0;
+        for (const utility::SCommand& c : table.commands())
+            keyCount += c.defaultKeys.size();
+        QCOMPARE(std::size_t(defaults.getCount()), keyCount);
+    }
+
+    void malformedCommandTablesAreRefusedWhole()
+    {
+        CCommandTable table = smallTable();
+        const char* broken[] = {
+            R"(<Commands/>)",
+            R"(<CommandTable><Group name="a"><Command number="1" id="A" name="a"/><Command number="1" id="B" name="b"/></Group></CommandTable>)",
+            R"(<CommandTable><Group name="a"><Command number="1" id="A" name="a"/><Command number="2" id="A" name="b"/></Group></CommandTable>)",
+            R"(<CommandTable><Group name="a"><Command number="0" id="A" name="a"/></Group></CommandTable>)",
+            R"(<CommandTable><Group name="a"><Command number="x" id="A" name="a"/></Group></CommandTable>)",
+            R"(<CommandTable><Group name="a"><Command number="1" id="A" name=""/></Group></CommandTable>)",
+            R"(<CommandTable><Group name="a"><Command number="1" id="A" name="a" keys="Ctrl+Hyper"/></Group></CommandTable>)",
+            R"(<CommandTable><Group name="a"><Command number="1" id="A" name="a" frames="4d"/></Group></CommandTable>)",
+        };
+        for (const char* text : broken) {
+            QString error;
+            QVERIFY2(!loadTableText(table, QString::fromUtf8(text), &error), text);
+            QVERIFY(!error.isEmpty());
+            QCOMPARE(table.size(), std::size_t(4));
+        }
+        QVERIFY(!table.loadXML(L"/nonexistent/commands.xml"));
+        QCOMPARE(table.size(), std::size_t(4));
+    }
+
+    void namesForTheSixCharacterStyleHaveAtMostSixteenCharacters()
+    {
+        QVERIFY(CCommandTable::isProperFor6Name(L"１２３４５６７８９０１２３４５６"));
+        QVERIFY(!CCommandTable::isProperFor6Name(L"１２３４５６７８９０１２３４５６７"));
+        QVERIFY(CCommandTable::isProperFor6Name(L"𠮷𠮷𠮷𠮷𠮷𠮷𠮷𠮷𠮷𠮷𠮷𠮷𠮷𠮷𠮷𠮷"));
+    }
+
+    void theTreeOffersTheCommandsOfTheModeAndFrame()
+    {
+        const CCommandTable table = smallTable();
+        QTreeWidget tree;
+        using core::IMainFrame;
+        ui::helper::setupCommandTree(tree, &table, ui::helper::SCT_SHORTCUT,
+                                     IMainFrame::FrameMode2D);
+        QCOMPARE(tree.topLevelItemCount(), 1); // groups without a command are left out
+        QCOMPARE(tree.topLevelItem(0)->text(0), QStringLiteral("ファイル"));
+        QVERIFY(ui::helper::commandNumberOf(tree.topLevelItem(0)) <= 0);
+        QCOMPARE(tree.topLevelItem(0)->childCount(), 1); // the recent file takes no key
+        QCOMPARE(ui::helper::commandNumberOf(tree.topLevelItem(0)->child(0)), 10);
+
+        ui::helper::setupCommandTree(tree, &table, ui::helper::SCT_ALL, IMainFrame::FrameMode3D);
+        QCOMPARE(tree.topLevelItemCount(), 2);
+        QCOMPARE(tree.topLevelItem(0)->childCount(), 2);
+        QCOMPARE(tree.topLevelItem(1)->text(0), QStringLiteral("3D"));
+        QVERIFY(ui::helper::commandNumberOf(tree.topLevelItem(1)) <= 0);
+        QCOMPARE(ui::helper::commandNumberOf(tree.topLevelItem(1)->child(0)), 20);
+
+        ui::helper::setupCommandTree(tree, &table, ui::helper::SCT_ALL, IMainFrame::FrameModeRed);
+        QCOMPARE(tree.topLevelItem(1)->text(0), QStringLiteral("朱書き"));
+        QCOMPARE(ui::helper::commandNumberOf(tree.topLevelItem(1)), -3);
+
+        ui::helper::setupCommandTree(tree, nullptr, ui::helper::SCT_ALL, IMainFrame::FrameMode2D);
+        QCOMPARE(tree.topLevelItemCount(), 0);
+    }
+};
+
+QTEST_MAIN(TestShortCutModel)
+#include "tst_shortcutmodel.moc"

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+class KsLayerManager;
+
 // The drawing database as the settings dialogs see it: elements listed by type ("SCALE",
 // "LWIDTH", "LAYER", ...). Elements stay owned by the database.
 class IDataBase {
@@ -21,6 +23,9 @@ public:
 
     // A display name for the drawing (file name or title).
     virtual std::wstring getTitle() const = 0;
+
+    // The drawing's layer manager; null for a database without layers.
+    virtual KsLayerManager* getLayerManager() const { return nullptr; }
 
     // Typed convenience over listElements.
     template <class T>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "db/IDataBase.h"
+#include "db/KsLayerManager.h"
 
 #include <map>
 #include <memory>
@@ -14,6 +15,7 @@ public:
     std::size_t countElements(const std::wstring& type) const override;
     void forEachElement(const std::function<void(KsObject&)>& visit) const override;
     std::wstring getTitle() const override { return m_title; }
+    KsLayerManager* getLayerManager() const override { return &m_layerManager; }
 
     // Takes ownership; returns the stored element.
     KsObject* addElement(std::unique_ptr<KsObject> element);
@@ -30,4 +32,5 @@ public:
 private:
     std::wstring m_title;
     std::map<std::wstring, std::vector<std::unique_ptr<KsObject>>> m_byType;
+    mutable KsLayerManager m_layerManager;
 };

@@ -68,13 +68,19 @@ CEditLayersDlgBase::CEditLayersDlgBase(const SLayerFlagsDlgProfile& profile)
     onClicked(IDC_LAYER_KEEP, [this] { OnBnClickedKeep(); });
 }
 
-// A dialog deleted without being closed still gives the drawing its states back.
+// A dialog deleted without being closed still gives the drawing its states back; a failure
+// here is logged, never thrown out of the destructor.
 CEditLayersDlgBase::~CEditLayersDlgBase()
 {
     if (m_list)
         m_list->detach(this);
-    if (!m_destroyed)
+    if (m_destroyed)
+        return;
+    try {
         m_editor.undoPreview();
+    } catch (...) {
+        framework::logHandlerException(m_profile.className, "OnDestroy");
+    }
 }
 
 bool CEditLayersDlgBase::setup(IDataBase* db, IView* view,

@@ -1,5 +1,7 @@
 #include "DrawingFile.h"
 
+#include "DxfDrawing.h"
+
 #include "types/KsLayer.h"
 #include "types/KsScale.h"
 #include "utility/Xml.h"
@@ -90,7 +92,9 @@ std::unique_ptr<CMemoryDataBase> openDrawing(const QString& path, QString* error
     }
     if (info.suffix().compare(QStringLiteral("xml"), Qt::CaseInsensitive) == 0)
         return readXmlDrawing(path, error);
-    fail(error, QStringLiteral("%1: unknown drawing format (expected .xml)").arg(path));
+    if (info.suffix().compare(QStringLiteral("dxf"), Qt::CaseInsensitive) == 0)
+        return dxf::readDxfDrawing(path, error);
+    fail(error, QStringLiteral("%1: unknown drawing format (expected .xml or .dxf)").arg(path));
     return nullptr;
 }
 

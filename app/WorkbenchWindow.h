@@ -3,6 +3,7 @@
 #include <QMainWindow>
 
 class QLabel;
+class QListWidget;
 class QTreeWidget;
 class QTreeWidgetItem;
 
@@ -10,6 +11,7 @@ namespace kesto::workbench {
 
 class Session;
 struct Topic;
+struct DrawingTopic;
 
 // The workbench's main window: the settings topics grouped by subsystem, and the open drawing.
 class WorkbenchWindow : public QMainWindow {
@@ -19,6 +21,7 @@ public:
     explicit WorkbenchWindow(Session& session, QWidget* parent = nullptr);
 
     void openTopic(const Topic& topic);
+    void openDrawingTopic(const DrawingTopic& topic);
     void openDrawing(const QString& path);
 
 private:
@@ -28,10 +31,14 @@ private:
     void chooseDrawing();
     void closeDrawing();
     void showDrawingState();
+    void addDrawingTopics();
+    void showViews();
 
     Session& m_session;
     QTreeWidget* m_tree = nullptr;
     QLabel* m_drawingLabel = nullptr;
+    QLabel* m_viewsLabel = nullptr;
+    QListWidget* m_views = nullptr;
 };
 
 } // namespace kesto::workbench

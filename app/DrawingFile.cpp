@@ -2,11 +2,14 @@
 
 #include "DxfDrawing.h"
 
+#include "types/KsFigure.h"
 #include "types/KsLayer.h"
 #include "types/KsScale.h"
 #include "utility/Xml.h"
 
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace kesto::workbench {
 
@@ -52,6 +55,22 @@ bool readLayer(const QDomElement& e, CMemoryDataBase& db, QString* error)
     return true;
 }
 
+// A figure on one of the layers listed before it.
+bool readFigure(const QDomElement& e, CMemoryDataBase& db, QString* error)
+{
+    const std::wstring name = e.attribute(QStringLiteral("layer")).toStdWString();
+    const auto layers = db.elementsOf<KsLayer>(L"LAYER");
+    const auto found = std::find_if(layers.begin(), layers.end(),
+                                    [&](const KsLayer* layer) { return layer->getName() == name; });
+    if (found == layers.end())
+        return fail(error, QStringLiteral("line %1: a figure needs the name of a layer listed "
+                                          "before it")
+                               .arg(e.lineNumber()));
+    db.add<KsFigure>(e.attribute(QStringLiteral("kind"), QStringLiteral("LINE")).toStdWString(),
+                     *found);
+    return true;
+}
+
 } // namespace
 
 std::unique_ptr<CMemoryDataBase> readXmlDrawing(const QString& path, QString* error)
@@ -75,6 +94,8 @@ std::unique_ptr<CMemoryDataBase> readXmlDrawing(const QString& path, QString* er
             ok = readScale(e, *db, &reason);
         else if (e.tagName() == u"layer")
             ok = readLayer(e, *db, &reason);
+        else if (e.tagName() == u"figure")
+            ok = readFigure(e, *db, &reason);
         if (!ok) {
             fail(error, QStringLiteral("%1: %2").arg(path, reason));
             return nullptr;

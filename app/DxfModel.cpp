@@ -132,7 +132,7 @@ int CDxfCollector::kindIndex(const std::string& kind)
     return index;
 }
 
-void CDxfCollector::setVariableString(const std::string& key, const std::string& value, int)
+void CDxfCollector::setVariableString(const std::string& key, const std::string& value, int code)
 {
     if (key == "$ACADVER")
         m_decoder.setVersion(value);
@@ -140,6 +140,8 @@ void CDxfCollector::setVariableString(const std::string& key, const std::string&
         m_decoder.setCodePage(value);
     else if (key == "$CLAYER")
         m_currentLayer = value;
+    else if (key == "$LWDEFAULT") // the parser passes group code 370 as text
+        setVariableInt(key, toInt(value, m_defaultLineWeight), code);
 }
 
 void CDxfCollector::setVariableInt(const std::string& key, int value, int)

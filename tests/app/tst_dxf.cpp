@@ -278,6 +278,38 @@ private slots:
                  QStringLiteral("AßB\\U+zz\\M+9ABCD\\"));
     }
 
+    void layerDescriptionsAndTheHeadersCurrentLayerAndDefaultWeight()
+    {
+        const QByteArray text = pairs({{0, "SECTION"},    {2, "HEADER"},
+                                       {9, "$ACADVER"},   {1, "AC1021"},
+                                       {9, "$CLAYER"},    {8, "genkyou"},
+                                       {9, "$LWDEFAULT"}, {370, "35"},
+                                       {0, "ENDSEC"},     {0, "SECTION"},
+                                       {2, "TABLES"},     {0, "TABLE"},
+                                       {2, "LAYER"},      {0, "LAYER"},
+                                       {2, "GENKYOU"},    {70, "0"},
+                                       {62, "-8"},        {6, "Continuous"},
+                                       {370, "-3"},       {1001, "AcAecLayerStandard"},
+                                       {1000, ""},        {1000, "現況の地盤"},
+                                       {0, "LAYER"},      {2, "0"},
+                                       {70, "0"},         {62, "7"},
+                                       {6, "Continuous"}, {0, "ENDTAB"},
+                                       {0, "ENDSEC"},     {0, "EOF"}});
+        QString error;
+        const auto db = readText(text, &error);
+        QVERIFY2(db, qPrintable(error));
+        const KsLayer* ground = layerNamed(*db, QStringLiteral("GENKYOU"));
+        QVERIFY(ground->getComment() == L"現況の地盤");
+        QVERIFY(layerNamed(*db, QStringLiteral("0"))->getComment().empty());
+        QCOMPARE(ground->getLineWidth().getWidth(), 0.35);
+        QVERIFY(ground->getLineWidth().getName() == L"既定");
+        QVERIFY(!ground->isVisible()); // off...
+        const KsLayerManager& manager = *db->getLayerManager();
+        QCOMPARE(manager.getCurrentLayer(), ground); // ...but current, so shown
+        QVERIFY(ground->isVisible(manager));
+        QCOMPARE(ground->getColor().getRGB(), 0x808080u);
+    }
+
     void entitiesOnLayersTheTableLacksAddThoseLayers()
     {
         const auto db = readText(r12Drawing({}, {"0"}, {"UNLISTED", "unlisted", "0"}));

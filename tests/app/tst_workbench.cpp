@@ -11,6 +11,7 @@
 #include "element/KsViewPort.h"
 #include "framework/ModalHook.h"
 #include "setting/SystemScaleSetting.h"
+#include "types/KsFigure.h"
 #include "types/KsLayer.h"
 #include "types/KsScale.h"
 
@@ -154,9 +155,17 @@ private slots:
         QVERIFY(scales[3]->getName() == L"横断 1/200");
         QCOMPARE(scales[3]->getDenominator(), 200.0);
         const auto layers = db->elementsOf<KsLayer>(L"LAYER");
-        QCOMPARE(layers.size(), std::size_t(5));
+        QCOMPARE(layers.size(), std::size_t(6));
         QVERIFY(!layers[4]->isVisible());
         QCOMPARE(layers[1]->getColor().getRGB(), 0xFF0000u);
+        std::vector<const KsLayer*> used;
+        db->forEachElement([&](KsObject& element) {
+            if (const auto* figure = dynamic_cast<const KsFigure*>(&element))
+                used.push_back(figure->getLayer());
+        });
+        QCOMPARE(used.size(), std::size_t(6));
+        QCOMPARE(std::count(used.begin(), used.end(), layers[1]), 2);
+        QCOMPARE(std::count(used.begin(), used.end(), layers[5]), 0);
     }
 
     void badDrawingFilesAreRefusedWithAReason_data()
@@ -172,6 +181,9 @@ private slots:
             << "greater than zero";
         QTest::newRow("nameless layer")
             << "d.xml" << QByteArray("<drawing><layer/></drawing>") << "needs a name";
+        QTest::newRow("figure before its layer")
+            << "f.xml" << QByteArray("<drawing><figure layer=\"A\"/><layer name=\"A\"/></drawing>")
+            << "line 1: a figure needs";
         QTest::newRow("unknown format")
             << "e.dwg" << QByteArray("AC1027") << "unknown drawing format";
     }

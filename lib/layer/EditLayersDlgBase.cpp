@@ -221,15 +221,15 @@ void CEditLayersDlgBase::changeComboboxInSelectedRow(const QString& text)
     const std::vector<int> selected = m_list->getSelectedRows();
     if (selected.empty() || m_list->listModel()->column(ColumnFlag).type != EColumnType::Combo)
         return;
-    m_editor.beginBatch();
-    for (int row : selected) {
-        if (!m_list->isCellEditable(row, ColumnFlag))
-            continue;
-        m_list->getRow(row).cells[ColumnFlag].text = text;
-        control::SListRowTextEvent event{row, text};
-        m_list->notify(control::LIST_EVENT_ROW_COMBO_CHANGED, &event);
-    }
-    m_editor.endBatch();
+    m_editor.batch([&] {
+        for (int row : selected) {
+            if (!m_list->isCellEditable(row, ColumnFlag))
+                continue;
+            m_list->getRow(row).cells[ColumnFlag].text = text;
+            control::SListRowTextEvent event{row, text};
+            m_list->notify(control::LIST_EVENT_ROW_COMBO_CHANGED, &event);
+        }
+    });
     m_list->updateRows(selected.front(), selected.back());
     m_list->viewport()->repaint();
     updateLayers();

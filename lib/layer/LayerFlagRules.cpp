@@ -156,19 +156,29 @@ bool CLayerFlagEditor::previewViews(const SLayerFlagRow& row, char flag)
 
 bool CLayerFlagEditor::previewAll()
 {
-    beginBatch();
     bool changed = false;
-    for (auto& row : m_rows) {
-        bool rowChanged = false;
-        if (!isCreateMode())
-            rowChanged = previewViews(*row, row->flag);
-        else if (row->flag == LayerFlagOn || row->flag == LayerFlagOff)
-            rowChanged = previewLayer(*row, row->flag);
-        redrawFor(*row, rowChanged);
-        changed = changed || rowChanged;
-    }
-    endBatch();
+    batch([&] {
+        for (auto& row : m_rows) {
+            bool rowChanged = false;
+            if (!isCreateMode())
+                rowChanged = previewViews(*row, row->flag);
+            else if (row->flag == LayerFlagOn || row->flag == LayerFlagOff)
+                rowChanged = previewLayer(*row, row->flag);
+            redrawFor(*row, rowChanged);
+            changed = changed || rowChanged;
+        }
+    });
     return changed;
+}
+
+bool CLayerFlagEditor::restoreLayer(SLayerFlagRow& row)
+{
+    KsLayer& layer = *row.layer;
+    const bool before = layer.isVisible(*m_manager);
+    layer.visible(row.savedVisible);
+    layer.reference(row.savedReference);
+    layer.editable(row.savedEditable);
+    return layer.isVisible(*m_manager) != before;
 }
 
 bool CLayerFlagEditor::viewsDifferFromStored(const SLayerFlagRow& row) const
@@ -188,25 +198,17 @@ bool CLayerFlagEditor::undoPreview()
 {
     if (!m_manager)
         return false;
-    beginBatch();
     bool changed = false;
-    for (auto& row : m_rows) {
-        bool rowChanged = false;
-        if (isCreateMode()) {
-            const bool before = row->layer->isVisible(*m_manager);
-            row->layer->visible(row->savedVisible);
-            row->layer->reference(row->savedReference);
-            row->layer->editable(row->savedEditable);
-            rowChanged = row->layer->isVisible(*m_manager) != before;
-        } else {
-            rowChanged = viewsDifferFromStored(*row);
+    batch([&] {
+        for (auto& row : m_rows) {
+            const bool rowChanged =
+                isCreateMode() ? restoreLayer(*row) : viewsDifferFromStored(*row);
+            redrawFor(*row, rowChanged);
+            changed = changed || rowChanged;
         }
-        redrawFor(*row, rowChanged);
-        changed = changed || rowChanged;
-    }
-    for (const ILayerFlagView* view : m_views)
-        view->endLayerFlgPreview();
-    endBatch();
+        for (const ILayerFlagView* view : m_views)
+            view->endLayerFlgPreview();
+    });
     return changed;
 }
 

@@ -78,6 +78,19 @@ public:
     // Redraws asked for between the two calls are made once, at the end.
     void beginBatch();
     void endBatch();
+    // Runs work as one batch, which ends also when work throws.
+    template <class F>
+    void batch(F&& work)
+    {
+        beginBatch();
+        try {
+            work();
+        } catch (...) {
+            endBatch();
+            throw;
+        }
+        endBatch();
+    }
 
     bool modifyLayerFlgs(LayerFlagMap& flags) const;
     void getLayerFlgArray(LayerFlagArray& out) const;
@@ -88,6 +101,7 @@ private:
     void markRowsWithFigures(const IDataBase& db);
     bool previewLayer(SLayerFlagRow& row, char flag);
     bool previewViews(const SLayerFlagRow& row, char flag);
+    bool restoreLayer(SLayerFlagRow& row);
     bool viewsDifferFromStored(const SLayerFlagRow& row) const;
     void redrawFor(const SLayerFlagRow& row, bool changed);
 

@@ -6,6 +6,8 @@
 
 #include <QTest>
 
+#include <stdexcept>
+
 using namespace kesto;
 using namespace kesto::ui::config::layerflags;
 using element::LayerFlagMap;
@@ -322,6 +324,13 @@ private slots:
         editor.previewRow(Spare, 1);
         editor.endBatch();
         QCOMPARE(view.redraws, 1); // no figures changed, no redraw
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, editor.batch([&] {
+            editor.previewRow(OldGround, 1);
+            throw std::runtime_error("interrupted");
+        }));
+        QCOMPARE(view.redraws, 2); // the batch ended with the exception
+        editor.previewRow(OldGround, 0);
+        QCOMPARE(view.redraws, 3);
     }
 };
 

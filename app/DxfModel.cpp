@@ -1,6 +1,9 @@
 #include "DxfModel.h"
 
+#include "LayerViews.h"
+
 #include "db/MemoryDataBase.h"
+#include "element/KsViewPort.h"
 #include "types/KsFigure.h"
 #include "types/KsLayer.h"
 
@@ -29,11 +32,18 @@ std::string keyOf(const std::string& name)
     return key;
 }
 
+// Numbers as files write them, often right-aligned ("    69").
 int toInt(const std::string& value, int fallback)
 {
+    const char* begin = value.data();
+    const char* end = begin + value.size();
+    while (begin < end && (*begin == ' ' || *begin == '\t'))
+        ++begin;
+    while (end > begin && (end[-1] == ' ' || end[-1] == '\t' || end[-1] == '\r'))
+        --end;
     int result = fallback;
-    const auto [end, ec] = std::from_chars(value.data(), value.data() + value.size(), result);
-    return ec == std::errc() ? result : fallback;
+    const auto [stop, ec] = std::from_chars(begin, end, result);
+    return ec == std::errc() && stop == end ? result : fallback;
 }
 
 bool isFigure(const std::string& kind)
@@ -95,7 +105,21 @@ void CDxfCollector::processCodeValuePair(unsigned int code, const std::string& v
         m_record.xdataApp = value;
     } else if (code == 1000 && m_record.xdataApp == "AcAecLayerStandard") {
         m_record.xdataStrings.push_back(value);
+    } else if (code == 5) {
+        m_record.handle = value;
+    } else if (m_record.kind == "VIEWPORT") {
+        readViewportPair(code, value);
     }
+}
+
+void CDxfCollector::readViewportPair(unsigned int code, const std::string& value)
+{
+    if (code == 69)
+        m_record.viewportId = toInt(value, 0);
+    else if (code == 331)
+        m_record.frozenHandles.push_back(value);
+    else if (code == 1003 && m_record.xdataApp == "ACAD")
+        m_record.frozenNames.push_back(value);
 }
 
 void CDxfCollector::endRecord()
@@ -103,7 +127,14 @@ void CDxfCollector::endRecord()
     const bool inEntities = m_section == "ENTITIES";
     const bool inBlocks = m_section == "BLOCKS";
     if ((inEntities || inBlocks) && isFigure(m_record.kind)) {
-        m_figures.push_back({kindIndex(m_record.kind), keyIndex(m_record.layer), inBlocks});
+        int viewport = -1;
+        if (m_record.kind == "VIEWPORT" && m_record.viewportId >= 2) {
+            viewport = static_cast<int>(m_viewports.size());
+            m_viewports.push_back({m_record.handle, std::move(m_record.frozenHandles),
+                                   std::move(m_record.frozenNames)});
+        }
+        m_figures.push_back(
+            {kindIndex(m_record.kind), keyIndex(m_record.layer), inBlocks, viewport});
         if (m_record.lineWeight >= 0)
             m_lineWeights.insert(m_record.lineWeight);
     }
@@ -174,8 +205,11 @@ void CDxfCollector::addLayer(const DL_LayerData& data)
     layer.trueColor = attributes.getColor24();
     layer.lineWeight = attributes.getWidth();
     layer.lineType = attributes.getLinetype();
-    if (m_previous.kind == "LAYER" && m_previous.xdataStrings.size() >= 2)
-        layer.description = m_previous.xdataStrings[1];
+    if (m_previous.kind == "LAYER") {
+        layer.handle = m_previous.handle.empty() ? std::string() : keyOf(m_previous.handle);
+        if (m_previous.xdataStrings.size() >= 2)
+            layer.description = m_previous.xdataStrings[1];
+    }
     m_layers.push_back(std::move(layer));
 }
 
@@ -230,8 +264,34 @@ void CDxfCollector::addFigures(CMemoryDataBase& db, std::vector<KsLayer*>& layer
             implicit.name = m_layerKeys[static_cast<std::size_t>(figure.layer)];
             layer = addLayer(db, implicit);
         }
-        db.add<KsFigure>(kindNames[static_cast<std::size_t>(figure.kind)], layer, figure.inBlock);
+        if (figure.viewport >= 0)
+            addViewport(db, m_viewports[static_cast<std::size_t>(figure.viewport)], layer,
+                        figure.inBlock);
+        else
+            db.add<KsFigure>(kindNames[static_cast<std::size_t>(figure.kind)], layer,
+                             figure.inBlock);
     }
+}
+
+// A viewport keeps the layers frozen in it as hidden there (flag 2).
+void CDxfCollector::addViewport(CMemoryDataBase& db, const SViewport& viewport,
+                                const KsLayer* layer, bool inBlock) const
+{
+    element::LayerFlagMap flags;
+    for (const std::string& handle : viewport.frozenHandles) {
+        const auto found = std::find_if(m_layers.begin(), m_layers.end(), [&](const SLayer& l) {
+            return !l.handle.empty() && l.handle == keyOf(handle);
+        });
+        if (found != m_layers.end())
+            flags[m_decoder.decode(found->name).toStdWString()] = element::LayerFlagOff;
+    }
+    for (const std::string& name : viewport.frozenNames)
+        flags[m_decoder.decode(name).toStdWString()] = element::LayerFlagOff;
+    const QString name = QStringLiteral("ビューポート ")
+                         + (viewport.handle.empty() ? QString::number(viewPortsOf(db).size() + 1)
+                                                    : QString::fromStdString(viewport.handle));
+    auto* created = db.add<KsViewPort>(name.toStdWString(), layer, inBlock);
+    created->setLayerFlgs(std::move(flags));
 }
 
 void CDxfCollector::addLineWidths(CMemoryDataBase& db) const

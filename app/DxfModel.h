@@ -47,6 +47,7 @@ private:
         std::string lineType;
         int flags = 0;
         std::string description;
+        std::string handle;
     };
     struct SRecord {
         std::string kind;
@@ -55,19 +56,33 @@ private:
         std::vector<std::string> xdataStrings;
         std::vector<double> dashes;
         int lineWeight = -3;
+        std::string handle;
+        int viewportId = 0;
+        std::vector<std::string> frozenHandles; // layers frozen in a viewport (R2000 and later)
+        std::vector<std::string> frozenNames;   // the same by name (R12 extended data)
+    };
+    // A viewport of a layout (ID 2 and up; ID 1 is the sheet itself).
+    struct SViewport {
+        std::string handle;
+        std::vector<std::string> frozenHandles;
+        std::vector<std::string> frozenNames;
     };
     struct SFigure {
         int kind;
         int layer; // index into m_layerKeys
         bool inBlock;
+        int viewport; // index into m_viewports, or -1
     };
 
     void endRecord();
+    void readViewportPair(unsigned int code, const std::string& value);
     int keyIndex(const std::string& rawName);
     int kindIndex(const std::string& kind);
     void addLineTypes(CMemoryDataBase& db) const;
     KsLayer* addLayer(CMemoryDataBase& db, const SLayer& layer) const;
     void addFigures(CMemoryDataBase& db, std::vector<KsLayer*>& layerOfKey);
+    void addViewport(CMemoryDataBase& db, const SViewport& viewport, const KsLayer* layer,
+                     bool inBlock) const;
     void addLineWidths(CMemoryDataBase& db) const;
 
     CTextDecoder m_decoder;
@@ -78,6 +93,7 @@ private:
     std::vector<SLineType> m_lineTypes;
     std::vector<SLayer> m_layers;
     std::vector<SFigure> m_figures;
+    std::vector<SViewport> m_viewports;
     std::vector<std::string> m_kinds;
     std::unordered_map<std::string, int> m_kindIndex;
     std::vector<std::string> m_layerKeys; // raw layer names of figures, as first written

@@ -1,7 +1,7 @@
 #include "element/KsViewPort.h"
 
-KsViewPort::KsViewPort(std::wstring name, const KsLayer* layer)
-    : KsFigure(L"VIEWPORT", layer)
+KsViewPort::KsViewPort(std::wstring name, const KsLayer* layer, bool inBlock)
+    : KsFigure(L"VIEWPORT", layer, inBlock)
     , m_name(std::move(name))
 {}
 

@@ -4,10 +4,11 @@
 #include "element/LayerFlagTable.h"
 #include "types/KsFigure.h"
 
-// A viewport element of the drawing ("VIEWPORT"); its frame lies on a layer (or none).
+// A viewport element of the drawing ("VIEWPORT"); its frame lies on a layer (or none), in a
+// layout's block or on the sheet.
 class KsViewPort : public KsFigure, public kesto::element::IViewPort {
 public:
-    explicit KsViewPort(std::wstring name, const KsLayer* layer = nullptr);
+    explicit KsViewPort(std::wstring name, const KsLayer* layer = nullptr, bool inBlock = false);
 
     std::wstring getViewName() const override { return m_name; }
     void setViewName(std::wstring name) { m_name = std::move(name); }

@@ -6,8 +6,10 @@
 #include "DrawingFile.h"
 #include "DxfDrawing.h"
 #include "DxfText.h"
+#include "LayerViews.h"
 
 #include "db/KsLayerManager.h"
+#include "element/KsViewPort.h"
 #include "types/KsFigure.h"
 #include "types/KsLayer.h"
 
@@ -308,6 +310,56 @@ private slots:
         QCOMPARE(manager.getCurrentLayer(), ground); // ...but current, so shown
         QVERIFY(ground->isVisible(manager));
         QCOMPARE(ground->getColor().getRGB(), 0x808080u);
+    }
+
+    void viewportsComeWithTheLayersFrozenInThem()
+    {
+        QString error;
+        const auto flange = openDrawing(drawing(QStringLiteral("qcad_flange_r2013.dxf")), &error);
+        QVERIFY2(flange, qPrintable(error));
+        QStringList names;
+        for (const KsViewPort* viewport : viewPortsOf(*flange)) {
+            names << QString::fromStdWString(viewport->getViewName());
+            QVERIFY(viewport->getLayerFlgs().empty());
+        }
+        QCOMPARE(names, QStringList({"ビューポート 1E80", "ビューポート 21AF", "ビューポート 21B0",
+                                     "ビューポート 38C9"}));
+        QCOMPARE(viewPortsOf(*flange)[1]->getLayer(),
+                 layerNamed(*flange, QStringLiteral("viewports")));
+
+        const QByteArray layers = pairs({{0, "SECTION"},
+                                         {2, "TABLES"},
+                                         {0, "TABLE"},
+                                         {2, "LAYER"},
+                                         {0, "LAYER"},
+                                         {5, "1A"},
+                                         {2, "ROAD"},
+                                         {70, "0"},
+                                         {62, "1"},
+                                         {6, "CONTINUOUS"},
+                                         {0, "LAYER"},
+                                         {5, "1b"},
+                                         {2, "\\U+65E7\\U+5730\\U+5F62"},
+                                         {70, "0"},
+                                         {62, "2"},
+                                         {6, "CONTINUOUS"},
+                                         {0, "ENDTAB"},
+                                         {0, "ENDSEC"},
+                                         {0, "SECTION"},
+                                         {2, "ENTITIES"}});
+        const QByteArray viewports =
+            pairs({{0, "VIEWPORT"}, {5, "40"},       {8, "ROAD"},    {69, "1"},     {331, "1A"},
+                   {0, "VIEWPORT"}, {5, "41"},       {8, "ROAD"},    {69, "2"},     {331, "1B"},
+                   {331, "FF"},     {0, "VIEWPORT"}, {5, "42"},      {8, "ROAD"},   {69, "3"},
+                   {1001, "ACAD"},  {1000, "MVIEW"}, {1003, "ROAD"}, {0, "ENDSEC"}, {0, "EOF"}});
+        const auto db = readText(layers + viewports, &error);
+        QVERIFY2(db, qPrintable(error));
+        const auto found = viewPortsOf(*db);
+        QCOMPARE(found.size(), std::size_t(2)); // ID 1 is the sheet, not a view
+        QVERIFY(found[0]->getViewName() == L"ビューポート 41");
+        QVERIFY(found[0]->getLayerFlgs() == element::LayerFlagMap({{L"旧地形", 2}}));
+        QVERIFY(found[1]->getLayerFlgs() == element::LayerFlagMap({{L"ROAD", 2}}));
+        QCOMPARE(countFigures(*db).figures, 3);
     }
 
     void entitiesOnLayersTheTableLacksAddThoseLayers()

@@ -221,13 +221,14 @@ private slots:
 
         QVERIFY2(bench.session.openDrawing(dxfDrawing(), &message), qPrintable(message));
         const CMemoryDataBase& drawing = *bench.session.drawing();
-        QCOMPARE(viewPortsOf(drawing).size(), std::size_t(2)); // the workbench's own two
+        QCOMPARE(viewPortsOf(drawing).size(), std::size_t(4));         // the drawing's own four
+        QCOMPARE(crossSectionViewsOf(drawing).size(), std::size_t(2)); // the workbench's two
         ScopedModalDrivers drivers(hideFirstRows);
         QVERIFY(bench.session.openDrawingTopic(*newViewport, &message));
-        QCOMPARE(message, QStringLiteral("「ビューポート3」を作成しました。"));
+        QCOMPARE(message, QStringLiteral("「ビューポート5」を作成しました。"));
         const KsViewPort* created = viewPortsOf(drawing).back();
         QVERIFY(created->getLayerFlgs() == element::LayerFlagMap({{L"0", 2}, {L"aux_iso", 2}}));
-        QVERIFY(created->getViewName() == L"ビューポート3");
+        QVERIFY(created->getViewName() == L"ビューポート5");
 
         bench.session.setSelectedViews({QStringLiteral("断面ビュー2")});
         drivers.add(hideFirstRows);

@@ -1,7 +1,5 @@
 #include "DxfModel.h"
 
-#include "LayerViews.h"
-
 #include "db/MemoryDataBase.h"
 #include "element/KsViewPort.h"
 #include "types/KsFigure.h"
@@ -288,8 +286,9 @@ void CDxfCollector::addViewport(CMemoryDataBase& db, const SViewport& viewport,
     for (const std::string& name : viewport.frozenNames)
         flags[m_decoder.decode(name).toStdWString()] = element::LayerFlagOff;
     const QString name = QStringLiteral("ビューポート ")
-                         + (viewport.handle.empty() ? QString::number(viewPortsOf(db).size() + 1)
-                                                    : QString::fromStdString(viewport.handle));
+                         + (viewport.handle.empty()
+                                ? QString::number(db.elementsOf<KsViewPort>(L"VIEWPORT").size() + 1)
+                                : QString::fromStdString(viewport.handle));
     auto* created = db.add<KsViewPort>(name.toStdWString(), layer, inBlock);
     created->setLayerFlgs(std::move(flags));
 }

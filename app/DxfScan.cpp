@@ -116,8 +116,8 @@ bool CScanner::closeRecord(QString* error)
 {
     for (const SCount& count : m_counts) {
         if (count.value < 0 || count.value > m_entityPairs)
-            return fail(error, QStringLiteral("line %1: %2 (from line %3) gives %4 for group "
-                                              "code %5 but holds only %6 values")
+            return fail(error, QStringLiteral("line %1: %2 (from line %3) gives the count %4 in "
+                                              "group code %5, but it holds %6 values")
                                    .arg(count.line)
                                    .arg(QString::fromStdString(m_entity))
                                    .arg(m_entityLine)

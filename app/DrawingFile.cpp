@@ -1,11 +1,16 @@
 #include "DrawingFile.h"
 
+#include "DxfDrawing.h"
 #include "types/KsCoordinateSystem.h"
+
+#include "types/KsFigure.h"
 #include "types/KsLayer.h"
 #include "types/KsScale.h"
 #include "utility/Xml.h"
 
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace kesto::workbench {
 
@@ -98,6 +103,22 @@ bool readWidthKinds(const QDomElement& e, CMemoryDataBase& db, QString* error)
     return true;
 }
 
+// A figure on one of the layers listed before it.
+bool readFigure(const QDomElement& e, CMemoryDataBase& db, QString* error)
+{
+    const std::wstring name = e.attribute(QStringLiteral("layer")).toStdWString();
+    const auto layers = db.elementsOf<KsLayer>(L"LAYER");
+    const auto found = std::find_if(layers.begin(), layers.end(),
+                                    [&](const KsLayer* layer) { return layer->getName() == name; });
+    if (found == layers.end())
+        return fail(error, QStringLiteral("line %1: a figure needs the name of a layer listed "
+                                          "before it")
+                               .arg(e.lineNumber()));
+    db.add<KsFigure>(e.attribute(QStringLiteral("kind"), QStringLiteral("LINE")).toStdWString(),
+                     *found);
+    return true;
+}
+
 } // namespace
 
 std::unique_ptr<CMemoryDataBase> readXmlDrawing(const QString& path, QString* error)
@@ -127,6 +148,8 @@ std::unique_ptr<CMemoryDataBase> readXmlDrawing(const QString& path, QString* er
             ok = readLineWidth(e, *db, &reason);
         else if (e.tagName() == u"linewidthkinds")
             ok = readWidthKinds(e, *db, &reason);
+        else if (e.tagName() == u"figure")
+            ok = readFigure(e, *db, &reason);
         if (!ok) {
             fail(error, QStringLiteral("%1: %2").arg(path, reason));
             return nullptr;
@@ -144,7 +167,9 @@ std::unique_ptr<CMemoryDataBase> openDrawing(const QString& path, QString* error
     }
     if (info.suffix().compare(QStringLiteral("xml"), Qt::CaseInsensitive) == 0)
         return readXmlDrawing(path, error);
-    fail(error, QStringLiteral("%1: unknown drawing format (expected .xml)").arg(path));
+    if (info.suffix().compare(QStringLiteral("dxf"), Qt::CaseInsensitive) == 0)
+        return dxf::readDxfDrawing(path, error);
+    fail(error, QStringLiteral("%1: unknown drawing format (expected .xml or .dxf)").arg(path));
     return nullptr;
 }
 

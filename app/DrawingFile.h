@@ -9,7 +9,7 @@
 namespace kesto::workbench {
 
 // Opens a drawing file into an in-memory database; null with a message on failure.
-// Formats: the workbench's XML drawing (see docs/drawing-format.md).
+// Formats: DXF (.dxf) and the workbench's XML drawing (.xml, see docs/drawing-format.md).
 std::unique_ptr<CMemoryDataBase> openDrawing(const QString& path, QString* error);
 
 std::unique_ptr<CMemoryDataBase> readXmlDrawing(const QString& path, QString* error);

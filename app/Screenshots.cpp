@@ -42,6 +42,29 @@ bool renderWidget(QWidget& widget, const QString& file)
     return framed.save(file, "PNG");
 }
 
+namespace {
+
+// Runs open once per shot, rendering the dialog it shows and cancelling it.
+template <class Open>
+void renderShots(const QString& dir, const QString& id, const std::vector<Shot>& shots,
+                 QStringList& written, Open open)
+{
+    for (const Shot& shot : shots) {
+        const QString name = shot.suffix.isEmpty() ? id : id + u'-' + shot.suffix;
+        const QString file = QDir(dir).filePath(name + QStringLiteral(".png"));
+        ModalHook::setStandingDriver([&](CKsDialog& dialog) {
+            if (shot.arrange)
+                shot.arrange(dialog);
+            if (renderWidget(dialog, file))
+                written << file;
+            dialog.EndDialog(ui::framework::IDCANCEL);
+        });
+        open();
+    }
+}
+
+} // namespace
+
 QStringList renderTopicScreenshots(Session& session, const QString& dir, QString* error)
 {
     QStringList written;
@@ -50,20 +73,19 @@ QStringList renderTopicScreenshots(Session& session, const QString& dir, QString
         return written;
     }
     for (const Topic& topic : session.topics()) {
-        for (const Shot& shot : topic.shots) {
-            const QString name = shot.suffix.isEmpty() ? topic.id : topic.id + u'-' + shot.suffix;
-            const QString file = QDir(dir).filePath(name + QStringLiteral(".png"));
-            ModalHook::setStandingDriver([&](CKsDialog& dialog) {
-                if (shot.arrange)
-                    shot.arrange(dialog);
-                if (renderWidget(dialog, file))
-                    written << file;
-                dialog.EndDialog(ui::framework::IDCANCEL);
-            });
+        renderShots(dir, topic.id, topic.shots, written, [&] {
             bool changed = false;
             QString ignored;
             session.openTopic(topic, &changed, &ignored);
-        }
+        });
+    }
+    // The drawing's dialogs, on the open drawing.
+    for (const DrawingTopic& topic :
+         session.drawing() ? session.drawingTopics() : std::vector<DrawingTopic>()) {
+        renderShots(dir, topic.id, topic.shots, written, [&] {
+            QString ignored;
+            session.openDrawingTopic(topic, &ignored);
+        });
     }
     ModalHook::setStandingDriver({});
     return written;

@@ -76,8 +76,10 @@ bool Session::openDrawing(const QString& path, QString* error)
     std::unique_ptr<CMemoryDataBase> db = workbench::openDrawing(path, error);
     if (!db)
         return false;
+    addStarterViews(*db);
     m_config->setCurrentDataBase(db.get());
     m_drawing = std::move(db);
+    m_selectedViews.clear();
     return true;
 }
 
@@ -85,6 +87,25 @@ void Session::closeDrawing()
 {
     m_config->setCurrentDataBase(nullptr);
     m_drawing.reset();
+    m_selectedViews.clear();
+}
+
+const DrawingTopic* Session::findDrawingTopic(const QString& id) const
+{
+    for (const DrawingTopic& topic : m_drawingTopics) {
+        if (topic.id == id)
+            return &topic;
+    }
+    return nullptr;
+}
+
+bool Session::openDrawingTopic(const DrawingTopic& topic, QString* message)
+{
+    if (!m_drawing) {
+        *message = QStringLiteral("図面を開いてください。");
+        return false;
+    }
+    return topic.open(*this, message);
 }
 
 } // namespace kesto::workbench

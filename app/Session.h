@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LayerViews.h"
 #include "SettingsStore.h"
 #include "Topic.h"
 
@@ -39,12 +40,26 @@ public:
     bool openDrawing(const QString& path, QString* error);
     void closeDrawing();
     const CMemoryDataBase* drawing() const { return m_drawing.get(); }
+    CMemoryDataBase* drawing() { return m_drawing.get(); }
+
+    // The dialogs opened on the drawing; false with message when there is no drawing.
+    const std::vector<DrawingTopic>& drawingTopics() const { return m_drawingTopics; }
+    const DrawingTopic* findDrawingTopic(const QString& id) const;
+    bool openDrawingTopic(const DrawingTopic& topic, QString* message);
+    // The view the dialogs preview in.
+    CWorkbenchView& view() { return m_view; }
+    // The views picked in the window: the edit dialogs take these, or every view of their kind.
+    void setSelectedViews(QStringList names) { m_selectedViews = std::move(names); }
+    const QStringList& selectedViews() const { return m_selectedViews; }
 
 private:
     std::vector<Topic> m_topics;
     std::shared_ptr<core::CSystemConfig> m_config;
     SettingsStore m_store;
     std::unique_ptr<CMemoryDataBase> m_drawing;
+    std::vector<DrawingTopic> m_drawingTopics = allDrawingTopics();
+    CWorkbenchView m_view;
+    QStringList m_selectedViews;
 };
 
 } // namespace kesto::workbench

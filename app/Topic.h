@@ -15,6 +15,7 @@ class CKsDialog;
 namespace kesto::workbench {
 
 class SettingsStore;
+class Session;
 
 using SettingFactory = std::function<std::unique_ptr<ui::setting::CSettingBase>()>;
 
@@ -66,5 +67,20 @@ std::vector<SettingFactory> hostSettings();
 // Per subsystem.
 void addSystemTopics(std::vector<Topic>& topics);
 void addCustomizeTopics(std::vector<Topic>& topics);
+
+// A dialog the workbench opens on the current drawing rather than on a setting (the layer
+// flags of the drawing's views). Listed and rendered only while a drawing is open.
+struct DrawingTopic {
+    QString group;
+    QString title;
+    QString id;
+    // Runs the dialog on the session's drawing; true when it changed the drawing. message
+    // says what happened.
+    std::function<bool(Session& session, QString* message)> open;
+    std::vector<Shot> shots;
+};
+
+std::vector<DrawingTopic> allDrawingTopics();
+void addLayerDrawingTopics(std::vector<DrawingTopic>& topics);
 
 } // namespace kesto::workbench

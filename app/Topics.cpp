@@ -27,4 +27,11 @@ std::vector<SettingFactory> hostSettings()
     };
 }
 
+std::vector<DrawingTopic> allDrawingTopics()
+{
+    std::vector<DrawingTopic> topics;
+    addLayerDrawingTopics(topics);
+    return topics;
+}
+
 } // namespace kesto::workbench

@@ -4,6 +4,8 @@
 #include "Session.h"
 
 #include "core/Application.h"
+#include "element/KsCrossSectionView.h"
+#include "element/KsViewPort.h"
 #include "setting/ShortCutSetting.h"
 
 #include <QAction>
@@ -11,9 +13,11 @@
 #include <QHash>
 #include <QHeaderView>
 #include <QLabel>
+#include <QListWidget>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QStatusBar>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -22,7 +26,9 @@ namespace kesto::workbench {
 
 namespace {
 constexpr int kTopicIdRole = Qt::UserRole + 1;
-}
+constexpr int kDrawingTopicIdRole = Qt::UserRole + 2;
+constexpr int kViewNameRole = Qt::UserRole + 3;
+} // namespace
 
 WorkbenchWindow::WorkbenchWindow(Session& session, QWidget* parent)
     : QMainWindow(parent)
@@ -36,16 +42,28 @@ WorkbenchWindow::WorkbenchWindow(Session& session, QWidget* parent)
     auto* openButton = new QPushButton(QStringLiteral("開く"), central);
     layout->addWidget(m_drawingLabel);
     layout->addWidget(m_tree, 1);
+    m_viewsLabel = new QLabel(QStringLiteral("図面のビュー (選んだビューを編集します):"), central);
+    m_views = new QListWidget(central);
+    m_views->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_views->setMaximumHeight(110);
+    layout->addWidget(m_viewsLabel);
+    layout->addWidget(m_views);
     layout->addWidget(openButton, 0, Qt::AlignRight);
     setCentralWidget(central);
     buildMenus();
     buildCommandMenu();
     buildTopicTree();
+    connect(m_views, &QListWidget::itemSelectionChanged, this, [this] {
+        QStringList names;
+        for (const QListWidgetItem* item : m_views->selectedItems())
+            names << item->data(kViewNameRole).toString();
+        m_session.setSelectedViews(names);
+    });
     connect(openButton, &QPushButton::clicked, this, &WorkbenchWindow::openSelectedTopic);
     connect(m_tree, &QTreeWidget::itemActivated, this, &WorkbenchWindow::openSelectedTopic);
     statusBar()->showMessage(QStringLiteral("設定フォルダ: %1").arg(m_session.store().folder()));
     showDrawingState();
-    resize(480, 420);
+    resize(520, 560);
 }
 
 void WorkbenchWindow::buildMenus()
@@ -72,8 +90,24 @@ void WorkbenchWindow::buildTopicTree()
         auto* item = new QTreeWidgetItem(group, {topic.title});
         item->setData(0, kTopicIdRole, topic.id);
     }
-    if (group && group->childCount() > 0)
+    addDrawingTopics();
+    if (m_tree->topLevelItemCount() > 0 && m_tree->topLevelItem(0)->childCount() > 0)
         m_tree->setCurrentItem(m_tree->topLevelItem(0)->child(0));
+}
+
+// The dialogs opened on the drawing, listed under their own group; usable with a drawing open.
+void WorkbenchWindow::addDrawingTopics()
+{
+    QTreeWidgetItem* group = nullptr;
+    for (const DrawingTopic& topic : m_session.drawingTopics()) {
+        if (!group || group->text(0) != topic.group) {
+            group = new QTreeWidgetItem(m_tree, {topic.group});
+            group->setFlags(Qt::ItemIsEnabled);
+            group->setExpanded(true);
+        }
+        auto* item = new QTreeWidgetItem(group, {topic.title});
+        item->setData(0, kDrawingTopicIdRole, topic.id);
+    }
 }
 
 void WorkbenchWindow::openSelectedTopic()
@@ -83,6 +117,21 @@ void WorkbenchWindow::openSelectedTopic()
         return;
     if (const Topic* topic = m_session.findTopic(item->data(0, kTopicIdRole).toString()))
         openTopic(*topic);
+    else if (const DrawingTopic* drawingTopic =
+                 m_session.findDrawingTopic(item->data(0, kDrawingTopicIdRole).toString()))
+        openDrawingTopic(*drawingTopic);
+}
+
+void WorkbenchWindow::openDrawingTopic(const DrawingTopic& topic)
+{
+    const int redrawsBefore = m_session.view().redrawCount();
+    QString message;
+    m_session.openDrawingTopic(topic, &message);
+    showViews();
+    statusBar()->showMessage(QStringLiteral("%1 (再描画 %2 回)")
+                                 .arg(message)
+                                 .arg(m_session.view().redrawCount() - redrawsBefore),
+                             8000);
 }
 
 void WorkbenchWindow::openTopic(const Topic& topic)
@@ -151,9 +200,10 @@ void WorkbenchWindow::runOwnCommand(const QString& id)
 
 void WorkbenchWindow::chooseDrawing()
 {
-    const QString path =
-        QFileDialog::getOpenFileName(this, QStringLiteral("図面を開く"), QString(),
-                                     QStringLiteral("図面 (*.xml);;すべてのファイル (*)"));
+    const QString path = QFileDialog::getOpenFileName(
+        this, QStringLiteral("図面を開く"), QString(),
+        QStringLiteral("図面 (*.dxf *.xml);;DXF 図面 (*.dxf);;"
+                       "ワークベンチ図面 (*.xml);;すべてのファイル (*)"));
     if (!path.isEmpty())
         openDrawing(path);
 }
@@ -179,6 +229,36 @@ void WorkbenchWindow::showDrawingState()
     m_drawingLabel->setText(
         drawing ? QStringLiteral("図面: %1").arg(QString::fromStdWString(drawing->getTitle()))
                 : QStringLiteral("図面: (開いていません)"));
+    for (int i = 0; i < m_tree->topLevelItemCount(); ++i) {
+        QTreeWidgetItem* group = m_tree->topLevelItem(i);
+        for (int j = 0; j < group->childCount(); ++j) {
+            QTreeWidgetItem* item = group->child(j);
+            if (item->data(0, kDrawingTopicIdRole).isValid())
+                item->setDisabled(!drawing);
+        }
+    }
+    showViews();
+}
+
+void WorkbenchWindow::showViews()
+{
+    const QSignalBlocker rebuilding(m_views); // keeps the session's choice while refilling
+    m_views->clear();
+    const CMemoryDataBase* drawing = m_session.drawing();
+    m_viewsLabel->setVisible(drawing);
+    m_views->setVisible(drawing);
+    if (!drawing)
+        return;
+    auto add = [this](const element::ILayerFlagView& view) {
+        auto* item = new QListWidgetItem(describeView(view), m_views);
+        const QString name = QString::fromStdWString(view.getViewName());
+        item->setData(kViewNameRole, name);
+        item->setSelected(m_session.selectedViews().contains(name));
+    };
+    for (const KsViewPort* view : viewPortsOf(*drawing))
+        add(*view);
+    for (const KsCrossSectionView* view : crossSectionViewsOf(*drawing))
+        add(*view);
 }
 
 } // namespace kesto::workbench

@@ -3,6 +3,7 @@
 #include <QMainWindow>
 
 class QLabel;
+class QListWidget;
 class QTreeWidget;
 class QTreeWidgetItem;
 
@@ -11,6 +12,7 @@ namespace kesto::workbench {
 class CommandActions;
 class Session;
 struct Topic;
+struct DrawingTopic;
 
 // The workbench's main window: the settings topics grouped by subsystem, and the open drawing.
 class WorkbenchWindow : public QMainWindow {
@@ -20,6 +22,7 @@ public:
     explicit WorkbenchWindow(Session& session, QWidget* parent = nullptr);
 
     void openTopic(const Topic& topic);
+    void openDrawingTopic(const DrawingTopic& topic);
     void openDrawing(const QString& path);
     // The commands of the "コマンド" menu; null when the host has no command table.
     CommandActions* commands() const { return m_commands; }
@@ -35,11 +38,15 @@ private:
     void applyShortCuts();
     void showCommandRun(const QString& id, const QString& name);
     void runOwnCommand(const QString& id);
+    void addDrawingTopics();
+    void showViews();
 
     Session& m_session;
     QTreeWidget* m_tree = nullptr;
     QLabel* m_drawingLabel = nullptr;
     CommandActions* m_commands = nullptr;
+    QLabel* m_viewsLabel = nullptr;
+    QListWidget* m_views = nullptr;
 };
 
 } // namespace kesto::workbench

@@ -2,6 +2,7 @@
 
 // The public surface of the settings-dialog library.
 #include "config/DialogData.h"
+#include "config/LayerEntries.h"
 #include "config/LibraryModule.h"
 #include "config/SystemEntries.h"
 #include "config/CustomizeEntries.h"

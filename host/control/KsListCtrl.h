@@ -43,6 +43,8 @@ public:
     SListRow& getRow(int row) { return m_model->row(row); }
     const SListRow& getRow(int row) const { return m_model->row(row); }
     void updateRow(int row) { m_model->rowChanged(row); }
+    // Repaints rows first..last after their cells were changed through getRow().
+    void updateRows(int first, int last) { m_model->rowsChanged(first, last); }
 
     // Cells
     QString getCellText(int row, int column) const;

@@ -186,6 +186,17 @@ void CKsListModel::rowChanged(int r)
     emit dataChanged(index(r, 0), index(r, columnCount() - 1));
 }
 
+void CKsListModel::rowsChanged(int first, int last)
+{
+    first = std::max(first, 0);
+    last = std::min(last, rowCount() - 1);
+    if (first > last)
+        return;
+    for (int r = first; r <= last; ++r)
+        normalize(row(r));
+    emit dataChanged(index(first, 0), index(last, columnCount() - 1));
+}
+
 void CKsListModel::setCellText(int r, int c, const QString& text)
 {
     if (SListCell* cell = cellAt(r, c)) {

@@ -46,6 +46,8 @@ public:
     SListRow& row(int index) { return m_rows[static_cast<std::size_t>(index)]; }
     // Repaints a row after its cells were changed through row().
     void rowChanged(int row);
+    // The same for a range of rows, in one notification.
+    void rowsChanged(int first, int last);
 
     void setCellText(int row, int column, const QString& text);
     void setCellColor(int row, int column, QRgb color);

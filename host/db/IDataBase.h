@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+class KsLayerManager;
+
 // The drawing database as the settings dialogs see it: elements listed by type ("SCALE",
 // "LWIDTH", "LAYER", ...). Elements stay owned by the database.
 class IDataBase {
@@ -32,6 +34,8 @@ public:
     virtual bool setLineWidthOfKind(int kind, const KsLineWidth& width) = 0;
     // Records a change of the drawing's tables under a label ("線幅設定", ...).
     virtual void recordChange(const std::wstring& label) = 0;
+    // The drawing's layer manager; null for a database without layers.
+    virtual KsLayerManager* getLayerManager() const { return nullptr; }
 
     // Typed convenience over listElements.
     template <class T>

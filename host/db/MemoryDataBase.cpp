@@ -1,5 +1,7 @@
 #include "db/MemoryDataBase.h"
 
+#include "types/KsLayer.h"
+
 #include <algorithm>
 
 CMemoryDataBase::CMemoryDataBase(std::wstring title)
@@ -46,6 +48,8 @@ bool CMemoryDataBase::removeElement(const KsObject* element)
         const auto found = std::find_if(list.begin(), list.end(),
                                         [&](const auto& owned) { return owned.get() == element; });
         if (found != list.end()) {
+            if (static_cast<const KsObject*>(m_layerManager.getCurrentLayer()) == element)
+                m_layerManager.setCurrentLayer(nullptr);
             list.erase(found);
             return true;
         }
@@ -55,6 +59,7 @@ bool CMemoryDataBase::removeElement(const KsObject* element)
 
 void CMemoryDataBase::clear()
 {
+    m_layerManager.setCurrentLayer(nullptr);
     m_byType.clear();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "db/IDataBase.h"
+#include "db/KsLayerManager.h"
 
 #include <array>
 #include <map>
@@ -22,6 +23,7 @@ public:
 
     // The labels recorded so far, oldest first.
     const std::vector<std::wstring>& getChangeRecord() const { return m_changeRecord; }
+    KsLayerManager* getLayerManager() const override { return &m_layerManager; }
 
     // Takes ownership; returns the stored element.
     KsObject* addElement(std::unique_ptr<KsObject> element);
@@ -43,4 +45,5 @@ private:
                                               KsLineWidth(0.35, KsLineWidth::Bold),
                                               KsLineWidth(0.7, KsLineWidth::ExtraBold)};
     std::vector<std::wstring> m_changeRecord;
+    mutable KsLayerManager m_layerManager;
 };

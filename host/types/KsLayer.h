@@ -6,6 +6,8 @@
 
 #include <string>
 
+class KsLayerManager;
+
 // A drawing layer ("LAYER" element) with its own look and states.
 class KsLayer : public KsObject {
 public:
@@ -23,6 +25,10 @@ public:
     bool isVisible() const { return m_visible; }
     bool isReference() const { return m_reference; }
     bool isEditable() const { return m_editable; }
+    // The states as the drawing's layer manager evaluates them (see KsLayerManager).
+    bool isVisible(const KsLayerManager& manager) const;
+    bool isReference(const KsLayerManager& manager) const;
+    bool isEditable(const KsLayerManager& manager) const;
 
     void setName(std::wstring name) { m_name = std::move(name); }
     void setComment(std::wstring comment) { m_comment = std::move(comment); }

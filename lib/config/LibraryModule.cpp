@@ -14,6 +14,7 @@ framework::ResourceModule* createModule()
     auto* module = new framework::ResourceModule(QStringLiteral("KsSystemConfigDlg"));
     const bool ok = res::registerCommonResources(*module) && res::registerSystemResources(*module)
                     && res::registerCustomizeResources(*module)
+                    && res::registerLayerResources(*module)
                     && framework::ResourceChain::instance().add(module);
     if (!ok) {
         delete module;

@@ -10,6 +10,7 @@ namespace kesto::ui::config::res {
 bool registerCommonResources(framework::ResourceModule& module);
 bool registerSystemResources(framework::ResourceModule& module);
 bool registerCustomizeResources(framework::ResourceModule& module);
+bool registerLayerResources(framework::ResourceModule& module);
 
 // A layout made by uic: the controls are children of the dialog, the Ui object is not kept.
 template <class Ui>

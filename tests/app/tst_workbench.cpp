@@ -7,8 +7,11 @@
 #include "Session.h"
 
 #include "control/KsListCtrl.h"
+#include "element/KsCrossSectionView.h"
+#include "element/KsViewPort.h"
 #include "framework/ModalHook.h"
 #include "setting/SystemScaleSetting.h"
+#include "types/KsFigure.h"
 #include "types/KsLayer.h"
 #include "types/KsScale.h"
 
@@ -61,6 +64,19 @@ void addScaleOf300(CKsDialog& d)
     QVERIFY(test::click(d, 7501));
     auto* list = d.dlgItem<ui::control::CKsListCtrl>(7062);
     list->commitCellText(list->getRowCount() - 1, 2, QStringLiteral("300"));
+    QVERIFY(test::click(d, 1));
+}
+
+QString dxfDrawing()
+{
+    return test::dataFile(QStringLiteral("dxf/qcad_flange_r2013.dxf"));
+}
+
+// Hides the first rows of a layer dialog and confirms.
+void hideFirstRows(CKsDialog& d)
+{
+    d.dlgItem<ui::control::CKsListCtrl>(7062)->setRowsSelected({0, 1});
+    QVERIFY(test::click(d, 1040));
     QVERIFY(test::click(d, 1));
 }
 
@@ -139,10 +155,18 @@ private slots:
         QVERIFY(scales[3]->getName() == L"横断 1/200");
         QCOMPARE(scales[3]->getDenominator(), 200.0);
         const auto layers = db->elementsOf<KsLayer>(L"LAYER");
-        QCOMPARE(layers.size(), std::size_t(5));
+        QCOMPARE(layers.size(), std::size_t(6));
         QVERIFY(!layers[4]->isVisible());
         QCOMPARE(layers[1]->getColor().getRGB(), 0xFF0000u);
         QCOMPARE(db->countElements(L"COORDSYS"), std::size_t(2));
+        std::vector<const KsLayer*> used;
+        db->forEachElement([&](KsObject& element) {
+            if (const auto* figure = dynamic_cast<const KsFigure*>(&element))
+                used.push_back(figure->getLayer());
+        });
+        QCOMPARE(used.size(), std::size_t(6));
+        QCOMPARE(std::count(used.begin(), used.end(), layers[1]), 2);
+        QCOMPARE(std::count(used.begin(), used.end(), layers[5]), 0);
     }
 
     void badDrawingFilesAreRefusedWithAReason_data()
@@ -160,6 +184,9 @@ private slots:
             << "f.xml" << QByteArray("<drawing><coordsys/></drawing>") << "needs a name";
         QTest::newRow("nameless layer")
             << "d.xml" << QByteArray("<drawing><layer/></drawing>") << "needs a name";
+        QTest::newRow("figure before its layer")
+            << "f.xml" << QByteArray("<drawing><figure layer=\"A\"/><layer name=\"A\"/></drawing>")
+            << "line 1: a figure needs";
         QTest::newRow("unknown format")
             << "e.dwg" << QByteArray("AC1027") << "unknown drawing format";
     }
@@ -182,6 +209,58 @@ private slots:
         QVERIFY(error.contains(QStringLiteral("no such file")));
     }
 
+    void layerDialogsOpenOnTheDrawingAndKeepTheirFlagsWithItsViews()
+    {
+        test::HostFixture host;
+        Workbench bench(host.folder());
+        QString message;
+        const DrawingTopic* newViewport =
+            bench.session.findDrawingTopic(QStringLiteral("layer-viewport-new"));
+        const DrawingTopic* editSections =
+            bench.session.findDrawingTopic(QStringLiteral("layer-section-edit"));
+        QVERIFY(newViewport && editSections);
+        QVERIFY(!bench.session.openDrawingTopic(*newViewport, &message));
+        QCOMPARE(message, QStringLiteral("図面を開いてください。"));
+
+        QVERIFY2(bench.session.openDrawing(dxfDrawing(), &message), qPrintable(message));
+        const CMemoryDataBase& drawing = *bench.session.drawing();
+        QCOMPARE(viewPortsOf(drawing).size(), std::size_t(4));         // the drawing's own four
+        QCOMPARE(crossSectionViewsOf(drawing).size(), std::size_t(2)); // the workbench's two
+        ScopedModalDrivers drivers(hideFirstRows);
+        QVERIFY(bench.session.openDrawingTopic(*newViewport, &message));
+        QCOMPARE(message, QStringLiteral("「ビューポート5」を作成しました。"));
+        const KsViewPort* created = viewPortsOf(drawing).back();
+        QVERIFY(created->getLayerFlgs() == element::LayerFlagMap({{L"0", 2}, {L"aux_iso", 2}}));
+        QVERIFY(created->getViewName() == L"ビューポート5");
+
+        bench.session.setSelectedViews({QStringLiteral("断面ビュー2")});
+        drivers.add(hideFirstRows);
+        const int redraws = bench.session.view().redrawCount();
+        QVERIFY(bench.session.openDrawingTopic(*editSections, &message));
+        const auto sections = crossSectionViewsOf(drawing);
+        QVERIFY(sections[0]->getLayerFlgs().empty());
+        QCOMPARE(sections[1]->getLayerFlgs().size(), std::size_t(2));
+        QVERIFY(bench.session.view().redrawCount() > redraws);
+        QCOMPARE(describeView(*sections[1]), QStringLiteral("断面ビュー2: 参照 0, 非参照 2"));
+
+        drivers.add([](CKsDialog& d) { QVERIFY(test::click(d, 2)); });
+        QVERIFY(!bench.session.openDrawingTopic(*editSections, &message));
+        QCOMPARE(message, QStringLiteral("キャンセルしました。"));
+        QCOMPARE(sections[1]->getLayerFlgs().size(), std::size_t(2));
+    }
+
+    void theSharedFlagsOfSeveralViewsKeepWhereTheyDiffer()
+    {
+        KsViewPort a(L"A");
+        KsViewPort b(L"B");
+        a.setLayerFlgs({{L"道路", 1}, {L"構造物", 2}, {L"寸法", 0}});
+        b.setLayerFlgs({{L"道路", 1}, {L"構造物", 1}});
+        QVERIFY(commonFlags({&a, &b})
+                == element::LayerFlagMap({{L"道路", 1}, {L"構造物", 3}, {L"寸法", 0}}));
+        QVERIFY(commonFlags({&b}) == b.getLayerFlgs());
+        QVERIFY(commonFlags({}).empty());
+    }
+
     void everyDialogIsRenderedWithItsTitleBar()
     {
         test::HostFixture host;
@@ -193,6 +272,9 @@ private slots:
         QVERIFY(error.isEmpty());
         QVERIFY(files.contains(QDir(dir).filePath(QStringLiteral("system-scale.png"))));
         QVERIFY(files.contains(QDir(dir).filePath(QStringLiteral("system-scale-drawing.png"))));
+        QVERIFY(files.contains(QDir(dir).filePath(QStringLiteral("layer-viewport-new-flags.png"))));
+        QVERIFY(files.contains(QDir(dir).filePath(QStringLiteral("layer-section-edit-keep.png"))));
+        QCOMPARE(viewPortsOf(*bench.session.drawing()).size(), std::size_t(2)); // all cancelled
         for (const QString& file : files) {
             const QImage image(file);
             QVERIFY2(!image.isNull(), qPrintable(file));

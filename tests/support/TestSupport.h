@@ -43,7 +43,7 @@ bool isEnabled(ui::framework::CKsDialog& dialog, int id);
 // item views need).
 void doubleClick(QWidget* widget, const QPoint& at);
 
-// A file of the shared test data (../shared/data).
+// A file of the test data (tests/data, or KS_DATA_DIR).
 QString dataFile(const QString& relative);
 
 } // namespace kesto::test

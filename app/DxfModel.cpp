@@ -1,0 +1,339 @@
+#include "DxfModel.h"
+
+#include "db/MemoryDataBase.h"
+#include "element/KsViewPort.h"
+#include "types/KsFigure.h"
+#include "types/KsLayer.h"
+
+#include <dl_codes.h>
+
+#include <QColor>
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <unordered_set>
+
+namespace kesto::workbench::dxf {
+
+namespace {
+
+// Layer names compare without case, as in the file format; non-ASCII bytes compare as they are.
+std::string keyOf(const std::string& name)
+{
+    if (name.empty())
+        return std::string(1, '0'); // an entity without a layer lies on layer 0
+    std::string key(name.size(), ' ');
+    std::transform(name.begin(), name.end(), key.begin(), [](unsigned char c) {
+        return c < 0x80 ? static_cast<char>(std::toupper(c)) : static_cast<char>(c);
+    });
+    return key;
+}
+
+// Numbers as files write them, often right-aligned ("    69").
+int toInt(const std::string& value, int fallback)
+{
+    const char* begin = value.data();
+    const char* end = begin + value.size();
+    while (begin < end && (*begin == ' ' || *begin == '\t'))
+        ++begin;
+    while (end > begin && (end[-1] == ' ' || end[-1] == '\t' || end[-1] == '\r'))
+        --end;
+    int result = fallback;
+    const auto [stop, ec] = std::from_chars(begin, end, result);
+    return ec == std::errc() && stop == end ? result : fallback;
+}
+
+bool isFigure(const std::string& kind)
+{
+    static const std::unordered_set<std::string> notFigures{"",      "SECTION", "ENDSEC", "EOF",
+                                                            "BLOCK", "ENDBLK",  "SEQEND", "VERTEX"};
+    return notFigures.count(kind) == 0;
+}
+
+// ACI 7 is the drawing's foreground: black on our white sheets.
+KsColor colorOf(int aci, int trueColor)
+{
+    aci = std::abs(aci);
+    if (aci < 1 || aci > 255)
+        aci = 7;
+    const auto rgb = static_cast<std::uint32_t>(trueColor) & 0xFFFFFFu;
+    if (trueColor >= 0 && !(aci == 7 && rgb == 0xFFFFFFu))
+        return KsColor(rgb, KsColor::User,
+                       QColor::fromRgb(rgb).name(QColor::HexRgb).toUpper().toStdWString());
+    if (aci == 7)
+        return KsColor(0, KsColor::System, L"7");
+    auto channel = [&](int i) {
+        return static_cast<std::uint32_t>(std::lround(dxfColors[aci][i] * 255.0));
+    };
+    return KsColor((channel(0) << 16) | (channel(1) << 8) | channel(2), KsColor::System,
+                   std::to_wstring(aci));
+}
+
+KsLineType::EKind lineTypeKind(const std::string& key, bool hasDashes)
+{
+    if (key == "BYLAYER")
+        return KsLineType::ByLayer;
+    if (key == "BYBLOCK")
+        return KsLineType::ByBlock;
+    return hasDashes ? KsLineType::Pattern : KsLineType::Solid;
+}
+
+} // namespace
+
+void CDxfCollector::processCodeValuePair(unsigned int code, const std::string& value)
+{
+    if (code == 0) {
+        endRecord();
+        m_record.kind = value;
+        if (value == "SECTION")
+            m_expectSectionName = true;
+        else if (value == "ENDSEC")
+            m_section.clear();
+        return;
+    }
+    if (m_expectSectionName && code == 2) {
+        m_section = value;
+        m_expectSectionName = false;
+    } else if (code == 8) {
+        m_record.layer = value;
+    } else if (code == 370) {
+        m_record.lineWeight = toInt(value, -3);
+    } else if (code == 1001) {
+        m_record.xdataApp = value;
+    } else if (code == 1000 && m_record.xdataApp == "AcAecLayerStandard") {
+        m_record.xdataStrings.push_back(value);
+    } else if (code == 5) {
+        m_record.handle = value;
+    } else if (m_record.kind == "VIEWPORT") {
+        readViewportPair(code, value);
+    }
+}
+
+void CDxfCollector::readViewportPair(unsigned int code, const std::string& value)
+{
+    if (code == 69)
+        m_record.viewportId = toInt(value, 0);
+    else if (code == 331)
+        m_record.frozenHandles.push_back(value);
+    else if (code == 1003 && m_record.xdataApp == "ACAD")
+        m_record.frozenNames.push_back(value);
+}
+
+void CDxfCollector::endRecord()
+{
+    const bool inEntities = m_section == "ENTITIES";
+    const bool inBlocks = m_section == "BLOCKS";
+    if ((inEntities || inBlocks) && isFigure(m_record.kind)) {
+        int viewport = -1;
+        if (m_record.kind == "VIEWPORT" && m_record.viewportId >= 2) {
+            viewport = static_cast<int>(m_viewports.size());
+            m_viewports.push_back({m_record.handle, std::move(m_record.frozenHandles),
+                                   std::move(m_record.frozenNames)});
+        }
+        m_figures.push_back(
+            {kindIndex(m_record.kind), keyIndex(m_record.layer), inBlocks, viewport});
+        if (m_record.lineWeight >= 0)
+            m_lineWeights.insert(m_record.lineWeight);
+    }
+    m_previous = std::move(m_record);
+    m_record = SRecord();
+}
+
+int CDxfCollector::keyIndex(const std::string& rawName)
+{
+    std::string key = keyOf(rawName);
+    if (const auto found = m_keyIndex.find(key); found != m_keyIndex.end())
+        return found->second;
+    const int index = static_cast<int>(m_layerKeys.size());
+    m_layerKeys.push_back(rawName.empty() ? std::string("0") : rawName);
+    m_keyIndex.emplace(std::move(key), index);
+    return index;
+}
+
+int CDxfCollector::kindIndex(const std::string& kind)
+{
+    if (const auto found = m_kindIndex.find(kind); found != m_kindIndex.end())
+        return found->second;
+    const int index = static_cast<int>(m_kinds.size());
+    m_kinds.push_back(kind);
+    m_kindIndex.emplace(kind, index);
+    return index;
+}
+
+void CDxfCollector::setVariableString(const std::string& key, const std::string& value, int code)
+{
+    if (key == "$ACADVER")
+        m_decoder.setVersion(value);
+    else if (key == "$DWGCODEPAGE")
+        m_decoder.setCodePage(value);
+    else if (key == "$CLAYER")
+        m_currentLayer = value;
+    else if (key == "$LWDEFAULT") // the parser passes group code 370 as text
+        setVariableInt(key, toInt(value, m_defaultLineWeight), code);
+}
+
+void CDxfCollector::setVariableInt(const std::string& key, int value, int)
+{
+    if (key == "$LWDEFAULT" && value >= 0 && value <= 211)
+        m_defaultLineWeight = value;
+}
+
+// Like a layer, a line type is reported once the next record has begun; its dashes come
+// while it is read.
+void CDxfCollector::addLinetype(const DL_LinetypeData& data)
+{
+    m_lineTypes.push_back({data.name, data.description, m_previous.dashes});
+}
+
+void CDxfCollector::addLinetypeDash(double length)
+{
+    if (std::isfinite(length))
+        m_record.dashes.push_back(length);
+}
+
+// Called once the next record has begun, so the layer's own pairs are in m_previous.
+void CDxfCollector::addLayer(const DL_LayerData& data)
+{
+    const DL_Attributes attributes = getAttributes();
+    SLayer layer;
+    layer.name = data.name;
+    layer.flags = data.flags;
+    layer.color = attributes.getColor();
+    layer.trueColor = attributes.getColor24();
+    layer.lineWeight = attributes.getWidth();
+    layer.lineType = attributes.getLinetype();
+    if (m_previous.kind == "LAYER") {
+        layer.handle = m_previous.handle.empty() ? std::string() : keyOf(m_previous.handle);
+        if (m_previous.xdataStrings.size() >= 2)
+            layer.description = m_previous.xdataStrings[1];
+    }
+    m_layers.push_back(std::move(layer));
+}
+
+void CDxfCollector::addLineTypes(CMemoryDataBase& db) const
+{
+    int id = 0;
+    for (const SLineType& lineType : m_lineTypes) {
+        const auto kind = lineTypeKind(keyOf(lineType.name), !lineType.dashes.empty());
+        db.add<KsLineType>(++id, m_decoder.decode(lineType.name).toStdWString(), kind,
+                           lineType.dashes);
+    }
+}
+
+KsLayer* CDxfCollector::addLayer(CMemoryDataBase& db, const SLayer& source) const
+{
+    auto* layer = db.add<KsLayer>(m_decoder.decode(source.name).toStdWString());
+    layer->setColor(colorOf(source.color, source.trueColor));
+    const std::string lineTypeKey = keyOf(source.lineType);
+    const auto found = std::find_if(m_lineTypes.begin(), m_lineTypes.end(),
+                                    [&](const auto& t) { return keyOf(t.name) == lineTypeKey; });
+    const std::wstring lineTypeName = m_decoder.decode(source.lineType).toStdWString();
+    if (found != m_lineTypes.end())
+        layer->setLineType(
+            KsLineType(static_cast<int>(found - m_lineTypes.begin()) + 1, lineTypeName,
+                       lineTypeKind(lineTypeKey, !found->dashes.empty()), found->dashes));
+    else
+        layer->setLineType(KsLineType(0, lineTypeName));
+    KsLineWidth width(source.lineWeight >= 0 ? source.lineWeight / 100.0
+                                             : m_defaultLineWeight / 100.0);
+    if (source.lineWeight < 0)
+        width.setName(L"既定");
+    layer->setLineWidth(width);
+    layer->setComment(m_decoder.decode(source.description).toStdWString());
+    const bool off = source.color < 0;
+    const bool frozen = (source.flags & 1) != 0;
+    layer->visible(!off && !frozen);
+    layer->reference(!frozen);
+    layer->editable((source.flags & 4) == 0);
+    return layer;
+}
+
+void CDxfCollector::addFigures(CMemoryDataBase& db, std::vector<KsLayer*>& layerOfKey)
+{
+    std::vector<std::wstring> kindNames;
+    kindNames.reserve(m_kinds.size());
+    for (const std::string& kind : m_kinds)
+        kindNames.push_back(QString::fromLatin1(kind.c_str()).toStdWString());
+    for (const SFigure& figure : m_figures) {
+        auto& layer = layerOfKey[static_cast<std::size_t>(figure.layer)];
+        if (!layer) { // a layer the table does not list: the drawing still has it
+            SLayer implicit;
+            implicit.name = m_layerKeys[static_cast<std::size_t>(figure.layer)];
+            layer = addLayer(db, implicit);
+        }
+        if (figure.viewport >= 0)
+            addViewport(db, m_viewports[static_cast<std::size_t>(figure.viewport)], layer,
+                        figure.inBlock);
+        else
+            db.add<KsFigure>(kindNames[static_cast<std::size_t>(figure.kind)], layer,
+                             figure.inBlock);
+    }
+}
+
+// A viewport keeps the layers frozen in it as hidden there (flag 2).
+void CDxfCollector::addViewport(CMemoryDataBase& db, const SViewport& viewport,
+                                const KsLayer* layer, bool inBlock) const
+{
+    element::LayerFlagMap flags;
+    for (const std::string& handle : viewport.frozenHandles) {
+        const auto found = std::find_if(m_layers.begin(), m_layers.end(), [&](const SLayer& l) {
+            return !l.handle.empty() && l.handle == keyOf(handle);
+        });
+        if (found != m_layers.end())
+            flags[m_decoder.decode(found->name).toStdWString()] = element::LayerFlagOff;
+    }
+    for (const std::string& name : viewport.frozenNames)
+        flags[m_decoder.decode(name).toStdWString()] = element::LayerFlagOff;
+    const QString name = QStringLiteral("ビューポート ")
+                         + (viewport.handle.empty()
+                                ? QString::number(db.elementsOf<KsViewPort>(L"VIEWPORT").size() + 1)
+                                : QString::fromStdString(viewport.handle));
+    auto* created = db.add<KsViewPort>(name.toStdWString(), layer, inBlock);
+    created->setLayerFlgs(std::move(flags));
+}
+
+void CDxfCollector::addLineWidths(CMemoryDataBase& db) const
+{
+    std::set<int> weights = m_lineWeights;
+    for (const SLayer& layer : m_layers) {
+        if (layer.lineWeight >= 0)
+            weights.insert(layer.lineWeight);
+    }
+    for (int weight : weights)
+        db.add<KsLineWidth>(weight / 100.0);
+}
+
+void CDxfCollector::build(CMemoryDataBase& db)
+{
+    endRecord();
+    addLineTypes(db);
+    std::unordered_map<std::string, KsLayer*> layerOfName;
+    std::unordered_map<std::wstring, KsLayer*> layerOfText; // \U+ written one way, read another
+    for (const SLayer& source : m_layers) {
+        if (source.name.empty() || layerOfName.count(keyOf(source.name)))
+            continue; // a second layer of the same name cannot be told apart
+        KsLayer* layer = addLayer(db, source);
+        layerOfName.emplace(keyOf(source.name), layer);
+        layerOfText.emplace(QString::fromStdWString(layer->getName()).toUpper().toStdWString(),
+                            layer);
+    }
+    std::vector<KsLayer*> layerOfKey;
+    layerOfKey.reserve(m_layerKeys.size());
+    for (const std::string& raw : m_layerKeys) {
+        KsLayer* layer = nullptr;
+        if (const auto found = layerOfName.find(keyOf(raw)); found != layerOfName.end())
+            layer = found->second;
+        else if (const auto text = layerOfText.find(m_decoder.decode(raw).toUpper().toStdWString());
+                 text != layerOfText.end())
+            layer = text->second;
+        layerOfKey.push_back(layer);
+    }
+    addFigures(db, layerOfKey);
+    addLineWidths(db);
+    const auto current = layerOfName.find(keyOf(m_currentLayer));
+    if (!m_currentLayer.empty() && current != layerOfName.end())
+        db.getLayerManager()->setCurrentLayer(current->second);
+}
+
+} // namespace kesto::workbench::dxf

@@ -1,0 +1,485 @@
+// DXF drawings in the workbench: the five real drawings of tests/data/dxf with their layers,
+// line types and figures; Japanese layer names in every form files use; and broken or hostile
+// files, which are refused with a reason.
+#include "support/TestSupport.h"
+
+#include "DrawingFile.h"
+#include "DxfDrawing.h"
+#include "DxfText.h"
+#include "LayerViews.h"
+
+#include "db/KsLayerManager.h"
+#include "element/KsViewPort.h"
+#include "types/KsFigure.h"
+#include "types/KsLayer.h"
+
+#include <QFile>
+#include <QTest>
+
+#include <set>
+
+using namespace kesto;
+using namespace kesto::workbench;
+
+namespace {
+
+QString drawing(const QString& name)
+{
+    return test::dataFile(QStringLiteral("dxf/") + name);
+}
+
+QByteArray readAll(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+const KsLayer* layerNamed(const CMemoryDataBase& db, const QString& name)
+{
+    for (const KsLayer* layer : db.elementsOf<KsLayer>(L"LAYER")) {
+        if (QString::fromStdWString(layer->getName()) == name)
+            return layer;
+    }
+    return nullptr;
+}
+
+QStringList layerNames(const CMemoryDataBase& db)
+{
+    QStringList out;
+    for (const KsLayer* layer : db.elementsOf<KsLayer>(L"LAYER"))
+        out << QString::fromStdWString(layer->getName());
+    return out;
+}
+
+struct SFigureCount {
+    int figures = 0;
+    int inBlocks = 0;
+    QStringList emptyLayers;
+};
+
+SFigureCount countFigures(const CMemoryDataBase& db)
+{
+    SFigureCount count;
+    std::set<const KsLayer*> used;
+    db.forEachElement([&](KsObject& element) {
+        if (const auto* figure = dynamic_cast<const KsFigure*>(&element)) {
+            ++count.figures;
+            count.inBlocks += figure->isInBlock() ? 1 : 0;
+            used.insert(figure->getLayer());
+        }
+    });
+    for (const KsLayer* layer : db.elementsOf<KsLayer>(L"LAYER")) {
+        if (!used.count(layer))
+            count.emptyLayers << QString::fromStdWString(layer->getName());
+    }
+    return count;
+}
+
+QByteArray pairs(std::initializer_list<std::pair<int, QByteArray>> list)
+{
+    QByteArray out;
+    for (const auto& [code, value] : list)
+        out += QByteArray::number(code) + '\n' + value + '\n';
+    return out;
+}
+
+// A drawing as an R12 export writes it: an optional header, a LAYER table, entities on layers.
+QByteArray r12Drawing(const QByteArray& codePage, const QList<QByteArray>& layers,
+                      const QList<QByteArray>& entityLayers)
+{
+    QByteArray out = pairs({{0, "SECTION"}, {2, "HEADER"}, {9, "$ACADVER"}, {1, "AC1009"}});
+    if (!codePage.isEmpty())
+        out += pairs({{9, "$DWGCODEPAGE"}, {3, codePage}});
+    out += pairs({{0, "ENDSEC"}, {0, "SECTION"}, {2, "TABLES"}, {0, "TABLE"}, {2, "LAYER"}});
+    for (const QByteArray& name : layers)
+        out += pairs({{0, "LAYER"}, {2, name}, {70, "0"}, {62, "3"}, {6, "CONTINUOUS"}});
+    out += pairs({{0, "ENDTAB"}, {0, "ENDSEC"}, {0, "SECTION"}, {2, "ENTITIES"}});
+    for (const QByteArray& layer : entityLayers)
+        out += pairs({{0, "LINE"}, {8, layer}, {10, "0"}, {20, "0"}, {11, "1"}, {21, "1"}});
+    return out + pairs({{0, "ENDSEC"}, {0, "EOF"}});
+}
+
+std::unique_ptr<CMemoryDataBase> readText(const QByteArray& text, QString* error = nullptr)
+{
+    QString ignored;
+    return dxf::readDxfText(text, QStringLiteral("test.dxf"), error ? error : &ignored);
+}
+
+} // namespace
+
+class TestDxf : public QObject {
+    Q_OBJECT
+
+private slots:
+    void everyDrawingOpensWithItsTables_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<int>("layers");
+        QTest::addColumn<int>("lineTypes");
+        QTest::addColumn<int>("figures");
+        QTest::addColumn<int>("inBlocks");
+        QTest::addColumn<QStringList>("empty");
+        QTest::newRow("R12") << "libredwg_example_r12.dxf" << 5 << 1 << 1627 << 1560
+                             << QStringList{"ADSK_SYSTEM_LIGHTS"};
+        QTest::newRow("R2000") << "qcad_dl3dl_din7200_r2000.dxf" << 23 << 42 << 3836 << 287
+                               << QStringList{"_Hilfe", "0"};
+        QTest::newRow("R2007") << "bjnortier_texts_in_block_r2007.dxf" << 16 << 53 << 715 << 713
+                               << QStringList{"TABLE_AL MAJD", "SERVICE PLAN 1782"};
+        QTest::newRow("R2013 CJK")
+            << "libredwg_gh109_r2013_cjk.dxf" << 27 << 5 << 360 << 309
+            << QStringList{"ASHADE",   "PUB_HATCH", "WINDOW_TEXT", "_TCH_KEY",
+                           "SURFACE",  "AXIS_TEXT", "SPACE_HATCH", "DIM_SYMB",
+                           "HANDRAIL", "RAIL",      "_TCH_MASK",   "PUB_WALL"};
+        QTest::newRow("R2013") << "qcad_flange_r2013.dxf" << 13 << 59 << 423 << 198
+                               << QStringList{"defpoints"};
+    }
+
+    void everyDrawingOpensWithItsTables()
+    {
+        QFETCH(QString, file);
+        QFETCH(int, layers);
+        QFETCH(int, lineTypes);
+        QFETCH(int, figures);
+        QFETCH(int, inBlocks);
+        QFETCH(QStringList, empty);
+        QString error;
+        const auto db = openDrawing(drawing(file), &error);
+        QVERIFY2(db, qPrintable(error));
+        QCOMPARE(QString::fromStdWString(db->getTitle()), file);
+        QCOMPARE(int(db->countElements(L"LAYER")), layers);
+        QCOMPARE(int(db->countElements(L"LTYPE")), lineTypes);
+        const SFigureCount count = countFigures(*db);
+        QCOMPARE(count.figures, figures);
+        QCOMPARE(count.inBlocks, inBlocks);
+        QCOMPARE(count.emptyLayers, empty);
+    }
+
+    void r12LayersKeepTheirStatesColoursAndLineTypes()
+    {
+        QString error;
+        const auto db = openDrawing(drawing(QStringLiteral("libredwg_example_r12.dxf")), &error);
+        QVERIFY2(db, qPrintable(error));
+        QCOMPARE(layerNames(*db),
+                 QStringList({"0", "TAVOLO_2", "TAVOLO_3", "DEFPOINTS", "ADSK_SYSTEM_LIGHTS"}));
+        const KsLayer* lights = layerNamed(*db, QStringLiteral("ADSK_SYSTEM_LIGHTS"));
+        QVERIFY(!lights->isVisible() && !lights->isReference() && !lights->isEditable());
+        const KsLayer* tavolo = layerNamed(*db, QStringLiteral("TAVOLO_2"));
+        QVERIFY(tavolo->isVisible() && tavolo->isReference() && tavolo->isEditable());
+        QCOMPARE(tavolo->getColor().getRGB(), 0xFFFF00u);
+        QCOMPARE(layerNamed(*db, QStringLiteral("0"))->getColor().getRGB(), 0x000000u);
+        QVERIFY(tavolo->getLineType().getName() == L"CONTINUOUS");
+        QVERIFY(tavolo->getLineWidth().getName() == L"既定"); // R12 has no line weights
+        QCOMPARE(db->getLayerManager()->getCurrentLayer(),
+                 layerNamed(*db, QStringLiteral("TAVOLO_3")));
+    }
+
+    void r2000NamesWithEscapesWeightsAndTrueColours()
+    {
+        QString error;
+        const auto db =
+            openDrawing(drawing(QStringLiteral("qcad_dl3dl_din7200_r2000.dxf")), &error);
+        QVERIFY2(db, qPrintable(error));
+        QVERIFY(layerNamed(*db, QStringLiteral("Maße")));
+        QVERIFY(layerNamed(*db, QStringLiteral("_PK_Text_ausgefüllt")));
+        QVERIFY(layerNamed(*db, QStringLiteral("_Einfügepunkt")));
+        const KsLayer* pen = layerNamed(*db, QStringLiteral("_PK_0.35mm"));
+        QCOMPARE(pen->getLineWidth().getWidth(), 0.35);
+        QVERIFY(pen->getLineWidth().getName() == L"0.35");
+        QCOMPARE(layerNamed(*db, QStringLiteral("Logo_b"))->getColor().getRGB(), 0xFF7F00u);
+        QVERIFY(layerNamed(*db, QStringLiteral("Logo"))->getLineWidth().getName() == L"既定");
+        QStringList widths;
+        for (const KsLineWidth* width : db->elementsOf<KsLineWidth>(L"LWIDTH"))
+            widths << QString::fromStdWString(width->getName());
+        QVERIFY(widths.contains(QStringLiteral("0.05")) && widths.contains(QStringLiteral("1")));
+        QCOMPARE(widths.size(), 6); // 5, 18, 35, 50, 70, 100
+    }
+
+    void r2013StatesLineTypesAndChineseNames()
+    {
+        QString error;
+        const auto flange = openDrawing(drawing(QStringLiteral("qcad_flange_r2013.dxf")), &error);
+        QVERIFY2(flange, qPrintable(error));
+        const KsLayer* aux = layerNamed(*flange, QStringLiteral("aux_iso"));
+        QVERIFY(!aux->isVisible() && !aux->isReference() && aux->isEditable()); // off and frozen
+        const KsLayer* center = layerNamed(*flange, QStringLiteral("center"));
+        QVERIFY(center->getLineType().getName() == L"DASHDOT");
+        QCOMPARE(center->getLineType().getKind(), int(KsLineType::Pattern));
+        QCOMPARE(center->getLineType().getDashes().size(), std::size_t(4));
+        QVERIFY(center->getLineWidth().getName() == L"0.09");
+        QCOMPARE(layerNamed(*flange, QStringLiteral("dimensions"))->getColor().getRGB(), 0x486CC0u);
+        QVERIFY(layerNamed(*flange, QStringLiteral("thin2"))->getLineWidth().getName() == L"0");
+
+        const auto cjk =
+            openDrawing(drawing(QStringLiteral("libredwg_gh109_r2013_cjk.dxf")), &error);
+        QVERIFY2(cjk, qPrintable(error));
+        const KsLayer* sanitary = layerNamed(*cjk, QStringLiteral("洁具"));
+        QVERIFY(sanitary);
+        QVERIFY(!countFigures(*cjk).emptyLayers.contains(QStringLiteral("洁具")));
+        const KsLayer* shade = layerNamed(*cjk, QStringLiteral("ASHADE"));
+        QVERIFY(shade->isVisible() && !shade->isEditable()); // locked
+        QVERIFY(layerNamed(*cjk, QStringLiteral("DOTE"))->getLineType().getName() == L"DOTE");
+    }
+
+    void r2007IsReadAsUtf8WithItsColours()
+    {
+        QString error;
+        const auto db =
+            openDrawing(drawing(QStringLiteral("bjnortier_texts_in_block_r2007.dxf")), &error);
+        QVERIFY2(db, qPrintable(error));
+        const KsLayer* column = layerNamed(*db, QStringLiteral("New Column"));
+        QCOMPARE(column->getColor().getRGB(), 0xFF0000u);
+        QVERIFY(column->getLineWidth().getName() == L"既定");
+        QCOMPARE(layerNamed(*db, QStringLiteral("0"))->getColor().getRGB(), 0x000000u); // white on
+        QVERIFY(layerNamed(*db, QStringLiteral("FURNITURE_AL MAJD"))->getLineWidth().getName()
+                == L"0.09");
+    }
+
+    void japaneseLayerNamesComeThroughInEveryForm_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        const QList<QByteArray> sjis{QByteArray::fromHex("93b998489286905390fc"),
+                                     QByteArray::fromHex("955c8ea6"),
+                                     QByteArray::fromHex("8d5c91a295a8")};
+        const QList<QByteArray> onLayers{sjis[1], sjis[2]};
+        QTest::newRow("Shift-JIS, ANSI_932") << r12Drawing("ANSI_932", sjis, onLayers);
+        QTest::newRow("Shift-JIS, no code page") << r12Drawing({}, sjis, onLayers);
+        QTest::newRow("escapes") << r12Drawing("ANSI_1252",
+                                               {"\\U+9053\\U+8DEF\\U+4E2D\\U+5FC3\\U+7DDA",
+                                                "\\U+8868\\U+793a", "\\M+18D5C\\U+9020\\U+7269"},
+                                               {"\\U+8868\\U+793A", "\\M+18d5c\\U+9020\\U+7269"});
+        QTest::newRow("UTF-8, no code page")
+            << r12Drawing({}, {"道路中心線", "表示", "構造物"}, {"表示", "構造物"});
+    }
+
+    void japaneseLayerNamesComeThroughInEveryForm()
+    {
+        QFETCH(QByteArray, text);
+        QString error;
+        const auto db = readText(text, &error);
+        QVERIFY2(db, qPrintable(error));
+        QCOMPARE(layerNames(*db), QStringList({"道路中心線", "表示", "構造物"}));
+        QCOMPARE(countFigures(*db).emptyLayers, QStringList{"道路中心線"});
+    }
+
+    void textDecodingFollowsVersionAndCodePage()
+    {
+        dxf::CTextDecoder decoder;
+        const QByteArray sjis = QByteArray::fromHex("955c8ea6");
+        QCOMPARE(decoder.decode(sjis.toStdString()), QStringLiteral("表示"));
+        decoder.setCodePage("ANSI_1252");
+        QCOMPARE(decoder.decode("Ma\xDF"
+                                "e"),
+                 QStringLiteral("Maße"));
+        decoder.setVersion("AC1021"); // UTF-8 whatever the header says
+        QCOMPARE(decoder.decode("Ma\xC3\x9F"
+                                "e"),
+                 QStringLiteral("Maße"));
+        QCOMPARE(dxf::codePageOf("ansi_932"), std::string("CP932"));
+        QVERIFY(dxf::codePageOf("ANSI_9999").empty());
+        QCOMPARE(dxf::decodeEscapes(QStringLiteral("A\\U+00DFB\\U+zz\\M+9ABCD\\")),
+                 QStringLiteral("AßB\\U+zz\\M+9ABCD\\"));
+    }
+
+    void layerDescriptionsAndTheHeadersCurrentLayerAndDefaultWeight()
+    {
+        const QByteArray text = pairs({{0, "SECTION"},    {2, "HEADER"},
+                                       {9, "$ACADVER"},   {1, "AC1021"},
+                                       {9, "$CLAYER"},    {8, "genkyou"},
+                                       {9, "$LWDEFAULT"}, {370, "35"},
+                                       {0, "ENDSEC"},     {0, "SECTION"},
+                                       {2, "TABLES"},     {0, "TABLE"},
+                                       {2, "LAYER"},      {0, "LAYER"},
+                                       {2, "GENKYOU"},    {70, "0"},
+                                       {62, "-8"},        {6, "Continuous"},
+                                       {370, "-3"},       {1001, "AcAecLayerStandard"},
+                                       {1000, ""},        {1000, "現況の地盤"},
+                                       {0, "LAYER"},      {2, "0"},
+                                       {70, "0"},         {62, "7"},
+                                       {6, "Continuous"}, {0, "ENDTAB"},
+                                       {0, "ENDSEC"},     {0, "EOF"}});
+        QString error;
+        const auto db = readText(text, &error);
+        QVERIFY2(db, qPrintable(error));
+        const KsLayer* ground = layerNamed(*db, QStringLiteral("GENKYOU"));
+        QVERIFY(ground->getComment() == L"現況の地盤");
+        QVERIFY(layerNamed(*db, QStringLiteral("0"))->getComment().empty());
+        QCOMPARE(ground->getLineWidth().getWidth(), 0.35);
+        QVERIFY(ground->getLineWidth().getName() == L"既定");
+        QVERIFY(!ground->isVisible()); // off...
+        const KsLayerManager& manager = *db->getLayerManager();
+        QCOMPARE(manager.getCurrentLayer(), ground); // ...but current, so shown
+        QVERIFY(ground->isVisible(manager));
+        QCOMPARE(ground->getColor().getRGB(), 0x808080u);
+    }
+
+    void viewportsComeWithTheLayersFrozenInThem()
+    {
+        QString error;
+        const auto flange = openDrawing(drawing(QStringLiteral("qcad_flange_r2013.dxf")), &error);
+        QVERIFY2(flange, qPrintable(error));
+        QStringList names;
+        for (const KsViewPort* viewport : viewPortsOf(*flange)) {
+            names << QString::fromStdWString(viewport->getViewName());
+            QVERIFY(viewport->getLayerFlgs().empty());
+        }
+        QCOMPARE(names, QStringList({"ビューポート 1E80", "ビューポート 21AF", "ビューポート 21B0",
+                                     "ビューポート 38C9"}));
+        QCOMPARE(viewPortsOf(*flange)[1]->getLayer(),
+                 layerNamed(*flange, QStringLiteral("viewports")));
+
+        const QByteArray layers = pairs({{0, "SECTION"},
+                                         {2, "TABLES"},
+                                         {0, "TABLE"},
+                                         {2, "LAYER"},
+                                         {0, "LAYER"},
+                                         {5, "1A"},
+                                         {2, "ROAD"},
+                                         {70, "0"},
+                                         {62, "1"},
+                                         {6, "CONTINUOUS"},
+                                         {0, "LAYER"},
+                                         {5, "1b"},
+                                         {2, "\\U+65E7\\U+5730\\U+5F62"},
+                                         {70, "0"},
+                                         {62, "2"},
+                                         {6, "CONTINUOUS"},
+                                         {0, "ENDTAB"},
+                                         {0, "ENDSEC"},
+                                         {0, "SECTION"},
+                                         {2, "ENTITIES"}});
+        const QByteArray viewports =
+            pairs({{0, "VIEWPORT"}, {5, "40"},       {8, "ROAD"},    {69, "1"},     {331, "1A"},
+                   {0, "VIEWPORT"}, {5, "41"},       {8, "ROAD"},    {69, "2"},     {331, "1B"},
+                   {331, "FF"},     {0, "VIEWPORT"}, {5, "42"},      {8, "ROAD"},   {69, "3"},
+                   {1001, "ACAD"},  {1000, "MVIEW"}, {1003, "ROAD"}, {0, "ENDSEC"}, {0, "EOF"}});
+        const auto db = readText(layers + viewports, &error);
+        QVERIFY2(db, qPrintable(error));
+        const auto found = viewPortsOf(*db);
+        QCOMPARE(found.size(), std::size_t(2)); // ID 1 is the sheet, not a view
+        QVERIFY(found[0]->getViewName() == L"ビューポート 41");
+        QVERIFY(found[0]->getLayerFlgs() == element::LayerFlagMap({{L"旧地形", 2}}));
+        QVERIFY(found[1]->getLayerFlgs() == element::LayerFlagMap({{L"ROAD", 2}}));
+        QCOMPARE(countFigures(*db).figures, 3);
+    }
+
+    void entitiesOnLayersTheTableLacksAddThoseLayers()
+    {
+        const auto db = readText(r12Drawing({}, {"0"}, {"UNLISTED", "unlisted", "0"}));
+        QVERIFY(db);
+        QCOMPARE(layerNames(*db), QStringList({"0", "UNLISTED"}));
+        QVERIFY(countFigures(*db).emptyLayers.isEmpty());
+    }
+
+    void brokenOrHostileFilesAreRefusedWithAReason_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("reason");
+        const QByteArray section = pairs({{0, "SECTION"}, {2, "ENTITIES"}});
+        const QByteArray end = pairs({{0, "ENDSEC"}, {0, "EOF"}});
+        QTest::newRow("empty") << QByteArray("\n \n") << "empty";
+        QTest::newRow("binary") << QByteArray("AutoCAD Binary DXF\r\n\x1a") << "binary DXF";
+        QTest::newRow("code not a number") << section + "abc\nLINE\n" + end << "line 5: group code";
+        QTest::newRow("code out of range") << section + "5000\nX\n" + end << "from -5 to 1071";
+        QTest::newRow("missing value") << section + "0\n"
+                                       << "has no value";
+        QTest::newRow("no EOF") << section + pairs({{0, "ENDSEC"}}) << "does not end with EOF";
+        QTest::newRow("open section")
+            << section + pairs({{0, "SECTION"}, {2, "X"}}) + end << "not closed";
+        QTest::newRow("truncated section")
+            << section + pairs({{0, "LINE"}, {8, "0"}}) << "ends inside section ENTITIES";
+        QTest::newRow("vertex count")
+            << section
+                   + pairs({{0, "LWPOLYLINE"}, {8, "0"}, {90, "1073741825"}, {10, "1"}, {20, "2"}})
+                   + end
+            << "LWPOLYLINE";
+        QTest::newRow("knot count")
+            << section + pairs({{0, "SPLINE"}, {8, "0"}, {72, "2000000000"}, {40, "0"}}) + end
+            << "group code 72";
+        QTest::newRow("leader count")
+            << section + pairs({{0, "LEADER"}, {8, "0"}, {76, "99999999999"}, {10, "1"}}) + end
+            << "LEADER";
+        QTest::newRow("negative edge count")
+            << section + pairs({{0, "HATCH"}, {8, "0"}, {91, "1"}, {93, "-4"}}) + end << "HATCH";
+    }
+
+    void brokenOrHostileFilesAreRefusedWithAReason()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, reason);
+        QString error;
+        QVERIFY(!readText(text, &error));
+        QVERIFY2(error.contains(reason), qPrintable(error));
+    }
+
+    void aTruncatedDrawingIsRefusedWhereverItEnds()
+    {
+        const QByteArray whole = readAll(drawing(QStringLiteral("qcad_flange_r2013.dxf")));
+        QVERIFY(whole.size() > 100000);
+        for (int part = 1; part < 40; ++part) {
+            QString error;
+            const QByteArray cut = whole.left(whole.size() * part / 40 + part);
+            QVERIFY2(!readText(cut, &error), qPrintable(QString::number(part)));
+            QVERIFY(!error.isEmpty());
+        }
+        QVERIFY(readText(whole));
+    }
+
+    void damagedDrawingsOpenOrAreRefusedButNeverCrash()
+    {
+        const QByteArray whole = readAll(drawing(QStringLiteral("libredwg_example_r12.dxf")));
+        quint32 seed = 20240601;
+        auto next = [&seed] { return seed = seed * 1664525u + 1013904223u; };
+        static const char noise[] = "0123456789-\n \xff";
+        const auto size = static_cast<quint32>(whole.size());
+        int opened = 0;
+        for (int variant = 0; variant < 30; ++variant) {
+            QByteArray damaged = whole;
+            for (int flip = 0; flip < 40; ++flip)
+                damaged[next() % size] = noise[next() % (sizeof(noise) - 1)];
+            QString error;
+            const auto db = readText(damaged, &error);
+            QVERIFY(db || !error.isEmpty());
+            opened += db ? 1 : 0;
+        }
+        QVERIFY(opened < 30);
+    }
+
+    void overlongLinesAreCutNotMisread()
+    {
+        const QByteArray text = r12Drawing({}, {"0", "TEXTS"}, {"TEXTS"}).replace("0\nEOF\n", "")
+                                + pairs({{0, "SECTION"},
+                                         {2, "ENTITIES"},
+                                         {0, "TEXT"},
+                                         {8, "TEXTS"},
+                                         {1, QByteArray(5000, 'x')},
+                                         {0, "LINE"},
+                                         {8, "0"},
+                                         {0, "ENDSEC"},
+                                         {0, "EOF"}});
+        QString error;
+        const auto db = readText(text, &error);
+        QVERIFY2(db, qPrintable(error));
+        QCOMPARE(layerNames(*db), QStringList({"0", "TEXTS"}));
+        QCOMPARE(countFigures(*db).figures, 3);
+        QVERIFY(countFigures(*db).emptyLayers.isEmpty());
+    }
+
+    void missingAndUnknownFilesNameThePath()
+    {
+        QString error;
+        QVERIFY(!openDrawing(drawing(QStringLiteral("none.dxf")), &error));
+        QVERIFY(error.contains(QStringLiteral("none.dxf")));
+        test::HostFixture host;
+        const QString garbage = host.path(QStringLiteral("garbage.dxf"));
+        QFile file(garbage);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(QByteArray::fromHex("00ff10ee") + QByteArray(3000, '\x81'));
+        file.close();
+        QVERIFY(!openDrawing(garbage, &error));
+        QVERIFY2(error.startsWith(garbage + QStringLiteral(": line 1: group code")),
+                 qPrintable(error));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestDxf)
+#include "tst_dxf.moc"

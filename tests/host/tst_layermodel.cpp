@@ -1,0 +1,125 @@
+// The host's layer model: states evaluated by the layer manager, figures on layers, and the
+// stored and previewed layer flags of viewports and cross-section views.
+#include "control/KsListCtrl.h"
+#include "db/MemoryDataBase.h"
+#include "element/KsCrossSectionView.h"
+#include "element/KsViewPort.h"
+#include "types/KsFigure.h"
+#include "types/KsLayer.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace kesto;
+using element::LayerFlagMap;
+
+class TestLayerModel : public QObject {
+    Q_OBJECT
+
+private slots:
+    void theCurrentLayerIsAlwaysShownReferencedAndEditable()
+    {
+        CMemoryDataBase db;
+        auto* road = db.add<KsLayer>(L"道路");
+        auto* hidden = db.add<KsLayer>(L"旧地形");
+        for (KsLayer* layer : {road, hidden}) {
+            layer->visible(false);
+            layer->reference(false);
+            layer->editable(false);
+        }
+        KsLayerManager& manager = *db.getLayerManager();
+        QVERIFY(!road->isVisible(manager) && !road->isReference(manager)
+                && !road->isEditable(manager));
+        manager.setCurrentLayer(road);
+        QVERIFY(road->isVisible(manager) && road->isReference(manager)
+                && road->isEditable(manager));
+        QVERIFY(!road->isVisible()); // its own state is kept
+        QVERIFY(!hidden->isVisible(manager));
+        QVERIFY(db.removeElement(road));
+        QCOMPARE(manager.getCurrentLayer(), nullptr);
+        manager.setCurrentLayer(hidden);
+        db.clear();
+        QCOMPARE(manager.getCurrentLayer(), nullptr);
+    }
+
+    void figuresShareTheirKindAndKeepTheirLayer()
+    {
+        CMemoryDataBase db;
+        auto* layer = db.add<KsLayer>(L"構造物");
+        const auto* a = db.add<KsFigure>(L"LINE", layer);
+        const auto* b = db.add<KsFigure>(std::wstring(L"LI") + L"NE", nullptr, true);
+        QCOMPARE(&a->getKind(), &b->getKind());
+        QVERIFY(a->getType() == L"LINE");
+        QCOMPARE(a->getLayer(), layer);
+        QVERIFY(!a->isInBlock() && b->isInBlock());
+        QCOMPARE(db.countElements(L"LINE"), std::size_t(2));
+    }
+
+    void aPreviewChangesHowTheViewIsDrawnNotWhatItStores()
+    {
+        KsViewPort port(L"北側");
+        port.setLayerFlgs({{L"道路", 2}, {L"寸法", 1}});
+        QCOMPARE(int(port.getLayerFlg(L"道路")), 2);
+        QCOMPARE(int(port.getLayerFlg(L"無い層")), 0);
+        QVERIFY(!port.previewLayerFlg(L"道路", 2)); // already drawn so
+        QVERIFY(port.previewLayerFlg(L"道路", 1));
+        QVERIFY(port.previewLayerFlg(L"無い層", 2));
+        QCOMPARE(int(port.getLayerFlg(L"道路")), 1);
+        QVERIFY(port.getLayerFlgs() == LayerFlagMap({{L"道路", 2}, {L"寸法", 1}}));
+        QVERIFY(port.previewLayerFlg(L"道路", 3)); // keep: the stored flag again
+        QCOMPARE(int(port.getLayerFlg(L"道路")), 2);
+        QVERIFY(!port.previewLayerFlg(L"道路", 3));
+        QVERIFY(port.endLayerFlgPreview());
+        QCOMPARE(int(port.getLayerFlg(L"無い層")), 0);
+        QVERIFY(!port.endLayerFlgPreview());
+        QVERIFY(!port.previewLayerFlg(L"寸法", 1));
+        QVERIFY(!port.endLayerFlgPreview()); // a preview equal to the stored flag changed nothing
+    }
+
+    void viewsFallBackToTheLayersOwnState()
+    {
+        CMemoryDataBase db;
+        auto* shown = db.add<KsLayer>(L"表示層");
+        auto* unreferenced = db.add<KsLayer>(L"参照外");
+        unreferenced->reference(false);
+        unreferenced->visible(false);
+        const KsLayerManager& manager = *db.getLayerManager();
+        KsViewPort port(L"P");
+        port.setLayerFlgs({{L"参照外", 1}});
+        QVERIFY(port.showsLayer(*shown, manager));
+        QVERIFY(port.showsLayer(*unreferenced, manager));
+        port.previewLayerFlg(L"表示層", 2);
+        QVERIFY(!port.showsLayer(*shown, manager));
+        KsCrossSectionView section(L"No.1");
+        QVERIFY(section.referencesLayer(*shown, manager));
+        QVERIFY(!section.referencesLayer(*unreferenced, manager));
+        section.setLayerFlgs({{L"参照外", 1}, {L"表示層", 2}});
+        QVERIFY(section.referencesLayer(*unreferenced, manager));
+        QVERIFY(!section.referencesLayer(*shown, manager));
+    }
+
+    void rowsChangedTogetherAreRepaintedInOneNotification()
+    {
+        ui::control::CKsListCtrl list;
+        list.addColumn(QStringLiteral("A"), 50);
+        list.addColumn(QStringLiteral("B"), 50);
+        for (int i = 0; i < 5; ++i)
+            list.addRow({QStringLiteral("x"), QStringLiteral("y")});
+        QSignalSpy spy(list.model(), &QAbstractItemModel::dataChanged);
+        for (int row = 1; row <= 3; ++row)
+            list.getRow(row).cells[0].text = QStringLiteral("z");
+        list.updateRows(1, 3);
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(spy[0][0].toModelIndex().row(), 1);
+        QCOMPARE(spy[0][1].toModelIndex().row(), 3);
+        QCOMPARE(spy[0][1].toModelIndex().column(), 1);
+        QCOMPARE(list.model()->index(2, 0).data().toString(), QStringLiteral("z"));
+        list.updateRows(4, 99);
+        QCOMPARE(spy.count(), 2);
+        list.updateRows(6, 9);
+        QCOMPARE(spy.count(), 2);
+    }
+};
+
+QTEST_MAIN(TestLayerModel)
+#include "tst_layermodel.moc"

@@ -1,6 +1,7 @@
 #include "Topic.h"
 
 #include "setting/SystemColorSetting.h"
+#include "setting/SystemHatchingSetting.h"
 #include "setting/SystemLineTypeSetting.h"
 
 namespace kesto::workbench {
@@ -20,6 +21,9 @@ std::vector<SettingFactory> hostSettings()
         [] { return std::make_unique<CColorSetting>(); },
         [] {
             return std::make_unique<CSystemLineTypeSetting>(CSystemLineTypeSetting::makeDefault());
+        },
+        [] {
+            return std::make_unique<CSystemHatchingSetting>(CSystemHatchingSetting::makeDefault());
         },
     };
 }

@@ -4,3 +4,5 @@
 #include "config/DialogData.h"
 #include "config/LibraryModule.h"
 #include "config/SystemEntries.h"
+#include "config/HatchSettingDlgData.h"
+#include "hatch/DrawingHatch.h"

@@ -13,6 +13,7 @@ framework::ResourceModule* createModule()
 {
     auto* module = new framework::ResourceModule(QStringLiteral("KsSystemConfigDlg"));
     const bool ok = res::registerCommonResources(*module) && res::registerSystemResources(*module)
+                    && res::registerHatchResources(*module)
                     && framework::ResourceChain::instance().add(module);
     if (!ok) {
         delete module;

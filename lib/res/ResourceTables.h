@@ -9,6 +9,7 @@ namespace kesto::ui::config::res {
 
 bool registerCommonResources(framework::ResourceModule& module);
 bool registerSystemResources(framework::ResourceModule& module);
+bool registerHatchResources(framework::ResourceModule& module);
 
 // A layout made by uic: the controls are children of the dialog, the Ui object is not kept.
 template <class Ui>

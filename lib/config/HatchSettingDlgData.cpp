@@ -10,6 +10,8 @@
 #include "setting/SystemHatchingSetting.h"
 #include "types/KsLineType.h"
 
+#include <functional>
+
 namespace kesto::ui::config {
 
 namespace {
@@ -76,14 +78,52 @@ void takeSlantLines(setting::SSlantPattern& pattern, const element::ISlantHatchE
     }
 }
 
-void takeCoating(setting::SCoatingPattern& pattern, const element::ICoatingElement& coating)
+using FrameSetter = std::function<void(setting::CHatchPatternBase&)>;
+
+bool takeFigure(SDrawingHatch& hatch, const element::IFigureHatchElement* figure,
+                const FrameSetter& setFrames)
 {
-    pattern.sameAsBackground = coating.isSameAsBackground();
-    if (const auto* color = findAttribute<KsColor>(coating))
+    if (!figure)
+        return false;
+    const std::wstring baseFigure = figure->getBaseFigureName();
+    if (!isBaseFigureRegistered(baseFigure)) {
+        showBaseFigureUnregistered(baseFigure);
+        return false;
+    }
+    setFrames(hatch.figurePattern);
+    hatch.figurePattern.baseFigureName = baseFigure;
+    hatch.figurePattern.placement = figure->getPlacement();
+    hatch.hatchType = SDrawingHatch::HatchFigure;
+    return true;
+}
+
+bool takeSlant(SDrawingHatch& hatch, const element::ISlantHatchElement* slant,
+               const FrameSetter& setFrames)
+{
+    if (!slant)
+        return false;
+    setFrames(hatch.slantPattern);
+    takeSlantLines(hatch.slantPattern, *slant);
+    hatch.hatchType = SDrawingHatch::HatchSlant;
+    return true;
+}
+
+// The drawing order and the draw-at-the-back flag are the drawing's business, not taken.
+bool takeCoating(SDrawingHatch& hatch, const element::ICoatingElement* coating,
+                 const FrameSetter& setFrames)
+{
+    if (!coating)
+        return false;
+    setFrames(hatch.coatingPattern);
+    setting::SCoatingPattern& pattern = hatch.coatingPattern;
+    pattern.sameAsBackground = coating->isSameAsBackground();
+    if (const auto* color = findAttribute<KsColor>(*coating))
         pattern.color = *color;
-    pattern.brushKind = coating.getBrushKind();
-    pattern.transparent = coating.isTransparent();
-    pattern.transparencyRate = coating.getTransparencyRate();
+    pattern.brushKind = coating->getBrushKind();
+    pattern.transparent = coating->isTransparent();
+    pattern.transparencyRate = coating->getTransparencyRate();
+    hatch.hatchType = SDrawingHatch::HatchCoating;
+    return true;
 }
 
 bool isWholeHatchMode(SHatchSettingDlgData::EMode mode)
@@ -164,41 +204,19 @@ bool SHatchSettingDlgData::setDrawHatchFromHandle()
     const auto* holder = dynamic_cast<const element::IBoundaryHolder*>(pickedElement.get());
     if (!hatch || !holder || !holder->getBoundary(0) || !isWholeHatchMode(mode))
         return false;
-    const auto setFrames = [&](setting::CHatchPatternBase& pattern) {
+    const FrameSetter setFrames = [&](setting::CHatchPatternBase& pattern) {
         setFrame(pattern.outerFrame, holder->getBoundary(0));
         setFrame(pattern.innerFrame, holder->getBoundary(1));
     };
-    const auto* figure = dynamic_cast<const element::IFigureHatchElement*>(hatch);
-    const auto* slant = dynamic_cast<const element::ISlantHatchElement*>(hatch);
-    const auto* coating = dynamic_cast<const element::ICoatingElement*>(hatch);
-    if (hatch->isFigureHatch()) {
-        if (!figure)
-            return false;
-        const std::wstring baseFigure = figure->getBaseFigureName();
-        if (!isBaseFigureRegistered(baseFigure)) {
-            showBaseFigureUnregistered(baseFigure);
-            return false;
-        }
-        setFrames(drawingHatch.figurePattern);
-        drawingHatch.figurePattern.baseFigureName = baseFigure;
-        drawingHatch.figurePattern.placement = figure->getPlacement();
-        drawingHatch.hatchType = SDrawingHatch::HatchFigure;
-        return true;
-    }
-    if (hatch->isSlantHatch()) {
-        if (!slant)
-            return false;
-        setFrames(drawingHatch.slantPattern);
-        takeSlantLines(drawingHatch.slantPattern, *slant);
-        drawingHatch.hatchType = SDrawingHatch::HatchSlant;
-        return true;
-    }
-    if (hatch->isCoating() && coating) {
-        setFrames(drawingHatch.coatingPattern);
-        takeCoating(drawingHatch.coatingPattern, *coating);
-        drawingHatch.hatchType = SDrawingHatch::HatchCoating;
-        return true;
-    }
+    if (hatch->isFigureHatch())
+        return takeFigure(drawingHatch, dynamic_cast<const element::IFigureHatchElement*>(hatch),
+                          setFrames);
+    if (hatch->isSlantHatch())
+        return takeSlant(drawingHatch, dynamic_cast<const element::ISlantHatchElement*>(hatch),
+                         setFrames);
+    if (hatch->isCoating())
+        return takeCoating(drawingHatch, dynamic_cast<const element::ICoatingElement*>(hatch),
+                           setFrames);
     return false;
 }
 

@@ -26,7 +26,10 @@ std::vector<SettingsStore::Problem> Session::load()
     std::vector<SettingFactory> factories = hostSettings();
     for (const Topic& topic : m_topics)
         factories.push_back(topic.makeDefault);
-    return m_store.loadAll(factories, *m_config);
+    std::vector<SettingsStore::Problem> problems = m_store.loadAll(factories, *m_config);
+    if (auto problem = m_store.prepareDialogData())
+        problems.push_back(*problem);
+    return problems;
 }
 
 const Topic* Session::findTopic(const QString& id) const

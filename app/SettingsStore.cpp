@@ -1,6 +1,8 @@
 #include "SettingsStore.h"
 
+#include "config/DialogDataFile.h"
 #include "core/SystemConfig.h"
+#include "utility/Xml.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -57,6 +59,51 @@ bool SettingsStore::save(const ui::setting::CSettingBase& setting, QString* erro
         return false;
     }
     return setting.saveXML(file.toStdWString(), error);
+}
+
+namespace {
+
+// An empty store of remembered dialog data; a file that appeared meanwhile is left alone.
+bool createDialogData(const QString& file, QString* error)
+{
+    const QByteArray bytes("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<DialogData/>\n");
+    QFile out(file);
+    if (!out.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+        *error = out.errorString();
+        return false;
+    }
+    if (out.write(bytes) != bytes.size() || !out.flush()) {
+        *error = out.errorString();
+        out.remove(); // ours, and incomplete
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+std::optional<SettingsStore::Problem> SettingsStore::prepareDialogData()
+{
+    const QString file =
+        QDir(m_folder).filePath(QString::fromWCharArray(ui::config::dialogdata::kFileName));
+    QString reason;
+    if (QFileInfo::exists(file)) {
+        QDomDocument doc;
+        QDomElement root;
+        if (utility::xml::load(doc, file.toStdWString(), false, ui::config::dialogdata::kMaxBytes,
+                               &reason)
+            && utility::xml::getRootElement(root, doc))
+            return std::nullopt;
+        if (reason.isEmpty())
+            reason = QStringLiteral("the file has no root element");
+        Problem problem = setAside(file, reason);
+        if (!problem.backup.isEmpty() && !createDialogData(file, &reason))
+            problem.reason += QStringLiteral("; a new file could not be written: ") + reason;
+        return problem;
+    }
+    if (createDialogData(file, &reason))
+        return std::nullopt;
+    return Problem{file, QStringLiteral("could not be created: ") + reason, QString()};
 }
 
 } // namespace kesto::workbench

@@ -5,6 +5,7 @@
 #include <QSet>
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 namespace kesto::core {
@@ -31,6 +32,10 @@ public:
     // built-in defaults. An unreadable file is moved aside and reported.
     std::vector<Problem> loadAll(const std::vector<SettingFactory>& factories,
                                  core::CSystemConfig& config);
+
+    // Creates dialogdata.xml with its root element when it is missing. An existing file is
+    // never written over: an unreadable one is moved aside (and replaced) and reported.
+    std::optional<Problem> prepareDialogData();
 
     // Writes atomically; refuses a file that was unreadable and could not be moved aside.
     bool save(const ui::setting::CSettingBase& setting, QString* error);

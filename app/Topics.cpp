@@ -2,6 +2,7 @@
 
 #include "setting/LineEndSetting.h"
 #include "setting/SystemColorSetting.h"
+#include "setting/SystemHatchingSetting.h"
 #include "setting/SystemLineTypeSetting.h"
 
 namespace kesto::workbench {
@@ -24,6 +25,9 @@ std::vector<SettingFactory> hostSettings()
             return std::make_unique<CSystemLineTypeSetting>(CSystemLineTypeSetting::makeDefault());
         },
         [] { return std::make_unique<CLineEndSetting>(CLineEndSetting::makeDefault()); },
+        [] {
+            return std::make_unique<CSystemHatchingSetting>(CSystemHatchingSetting::makeDefault());
+        },
     };
 }
 

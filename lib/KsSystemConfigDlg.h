@@ -6,3 +6,5 @@
 #include "config/LibraryModule.h"
 #include "config/SystemEntries.h"
 #include "config/CustomizeEntries.h"
+#include "config/HatchSettingDlgData.h"
+#include "hatch/DrawingHatch.h"

@@ -13,10 +13,11 @@ static void setError(QString* error, const QString& text)
         *error = text;
 }
 
-bool parse(QDomDocument& doc, const QByteArray& bytes, QString* error)
+static bool parseCapped(QDomDocument& doc, const QByteArray& bytes, bool namespaceProcessing,
+                        qint64 maxBytes, QString* error)
 {
-    if (bytes.size() > kMaxDocumentBytes) {
-        setError(error, QStringLiteral("the file is larger than %1 bytes").arg(kMaxDocumentBytes));
+    if (bytes.size() > maxBytes) {
+        setError(error, QStringLiteral("the file is larger than %1 bytes").arg(maxBytes));
         return false;
     }
     if (bytes.contains("<!ENTITY")) {
@@ -27,7 +28,7 @@ bool parse(QDomDocument& doc, const QByteArray& bytes, QString* error)
     int line = 0;
     int column = 0;
     QDomDocument parsed;
-    if (!parsed.setContent(bytes, false, &message, &line, &column)) {
+    if (!parsed.setContent(bytes, namespaceProcessing, &message, &line, &column)) {
         setError(error,
                  QStringLiteral("line %1, column %2: %3").arg(line).arg(column).arg(message));
         return false;
@@ -36,18 +37,29 @@ bool parse(QDomDocument& doc, const QByteArray& bytes, QString* error)
     return true;
 }
 
+bool parse(QDomDocument& doc, const QByteArray& bytes, QString* error)
+{
+    return parseCapped(doc, bytes, false, kMaxDocumentBytes, error);
+}
+
 bool load(QDomDocument& doc, const std::wstring& path, QString* error)
+{
+    return load(doc, path, false, kMaxDocumentBytes, error);
+}
+
+bool load(QDomDocument& doc, const std::wstring& path, bool namespaceProcessing, qint64 maxBytes,
+          QString* error)
 {
     QFile file(QString::fromStdWString(path));
     if (!file.open(QIODevice::ReadOnly)) {
         setError(error, file.errorString());
         return false;
     }
-    if (file.size() > kMaxDocumentBytes) {
-        setError(error, QStringLiteral("the file is larger than %1 bytes").arg(kMaxDocumentBytes));
+    if (file.size() > maxBytes) {
+        setError(error, QStringLiteral("the file is larger than %1 bytes").arg(maxBytes));
         return false;
     }
-    return parse(doc, file.read(kMaxDocumentBytes + 1), error);
+    return parseCapped(doc, file.read(maxBytes + 1), namespaceProcessing, maxBytes, error);
 }
 
 bool save(const QDomDocument& doc, const std::wstring& path, QString* error)
@@ -83,6 +95,71 @@ bool readIntAttribute(const QDomElement& element, const QString& name, int& out)
 {
     bool ok = false;
     const int value = element.attribute(name).toInt(&ok);
+    if (!ok)
+        return false;
+    out = value;
+    return true;
+}
+
+static bool isXmlName(const QString& name)
+{
+    if (name.isEmpty() || !(name.front().isLetter() || name.front() == u'_'))
+        return false;
+    for (const QChar c : name) {
+        if (!c.isLetterOrNumber() && c != u'_' && c != u'-' && c != u'.')
+            return false;
+    }
+    return true;
+}
+
+bool findByAttribute(QDomElement& out, const QDomNodeList& list, const QString& name,
+                     const QString& value)
+{
+    for (int i = 0; i < list.size(); ++i) {
+        const QDomElement element = list.at(i).toElement();
+        if (!element.isNull() && element.hasAttribute(name) && element.attribute(name) == value) {
+            out = element;
+            return true;
+        }
+    }
+    return false;
+}
+
+bool createElement(QDomElement& out, QDomDocument& doc, const QString& name)
+{
+    if (doc.isNull() || !isXmlName(name))
+        return false;
+    out = doc.createElement(name);
+    return !out.isNull();
+}
+
+bool writeAttributeText(QDomElement& element, const QString& name, const QString& value)
+{
+    if (element.isNull() || !isXmlName(name))
+        return false;
+    element.setAttribute(name, value);
+    return true;
+}
+
+bool writeIntElement(QDomElement& out, QDomNode& parent, QDomDocument& doc, const QString& name,
+                     int value)
+{
+    QDomElement element;
+    if (parent.isNull() || !createElement(element, doc, name))
+        return false;
+    element.appendChild(doc.createTextNode(QString::number(value)));
+    if (parent.appendChild(element).isNull())
+        return false;
+    out = element;
+    return true;
+}
+
+bool readInt(int& out, const QDomElement& element)
+{
+    if (element.isNull())
+        return false;
+    bool ok = false;
+    const int value = element.text().trimmed().toInt(&ok, 10);
     if (!ok)
         return false;
     out = value;

@@ -11,6 +11,7 @@ bool registerCommonResources(framework::ResourceModule& module);
 bool registerSystemResources(framework::ResourceModule& module);
 bool registerCustomizeResources(framework::ResourceModule& module);
 bool registerLayerResources(framework::ResourceModule& module);
+bool registerHatchResources(framework::ResourceModule& module);
 
 // A layout made by uic: the controls are children of the dialog, the Ui object is not kept.
 template <class Ui>

@@ -10,6 +10,8 @@
 #include "element/KsCrossSectionView.h"
 #include "element/KsViewPort.h"
 #include "framework/ModalHook.h"
+#include "hatch/DrawingHatch.h"
+#include "setting/SystemHatchingSetting.h"
 #include "setting/SystemScaleSetting.h"
 #include "types/KsFigure.h"
 #include "types/KsLayer.h"
@@ -84,6 +86,26 @@ QByteArray readAll(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void writeAll(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), bytes.size());
+}
+
+// The names of the dlgdata elements under the root of a dialog data file.
+QStringList dialogDataNames(const QString& path)
+{
+    QDomDocument doc;
+    if (!doc.setContent(readAll(path)))
+        return {QStringLiteral("unreadable")};
+    QStringList names;
+    for (QDomElement e = doc.documentElement().firstChildElement(); !e.isNull();
+         e = e.nextSiblingElement())
+        names << e.tagName() + u'=' + e.attribute(QStringLiteral("name"));
+    return names;
 }
 
 } // namespace
@@ -259,6 +281,62 @@ private slots:
                 == element::LayerFlagMap({{L"道路", 1}, {L"構造物", 3}, {L"寸法", 0}}));
         QVERIFY(commonFlags({&b}) == b.getLayerFlgs());
         QVERIFY(commonFlags({}).empty());
+    }
+
+    void dialogDataIsCreatedAtFirstStartAndNeverWrittenOver()
+    {
+        test::HostFixture host;
+        const QString file = host.path(QStringLiteral("dialogdata.xml"));
+        {
+            Workbench bench(host.folder());
+            QVERIFY(bench.problems.empty());
+            QVERIFY(dialogDataNames(file).isEmpty()); // a root element and nothing in it
+            const auto* hatching = bench.config->getSetting<ui::setting::CSystemHatchingSetting>();
+            QVERIFY(hatching);
+            QVERIFY(hatching->isSame(ui::setting::CSystemHatchingSetting::makeDefault()));
+        }
+        const QByteArray withOther =
+            "<?xml version=\"1.0\"?>\n<DialogData>\n  <dlgdata name=\"MouseDlg\">"
+            "<Page>3</Page></dlgdata>\n</DialogData>\n";
+        writeAll(file, withOther);
+        {
+            Workbench restarted(host.folder());
+            QVERIFY(restarted.problems.empty());
+            QVERIFY(readAll(file) == withOther);
+            ui::config::SDrawingHatch hatch;
+            hatch.initByDefault();
+            hatch.hatchType = 3;
+            QVERIFY(hatch.saveDialogData());
+        }
+        const QStringList expected = {QStringLiteral("dlgdata=MouseDlg"),
+                                      QStringLiteral("dlgdata=DrawingHatch")};
+        QCOMPARE(dialogDataNames(file), expected);
+        const QByteArray saved = readAll(file);
+        Workbench again(host.folder());
+        QVERIFY(readAll(file) == saved);
+        ui::config::SDrawingHatch loaded;
+        QVERIFY(loaded.loadDialogData());
+        QCOMPARE(loaded.hatchType, 3);
+    }
+
+    void anUnreadableDialogDataFileIsSetAsideAndReported()
+    {
+        test::HostFixture host;
+        const QString file = host.path(QStringLiteral("dialogdata.xml"));
+        const QByteArray broken("<DialogData><dlgdata name=\"DrawingHatch\"><Hatch");
+        writeAll(file, broken);
+        Workbench bench(host.folder());
+        QCOMPARE(bench.problems.size(), std::size_t(1));
+        const SettingsStore::Problem& problem = bench.problems.front();
+        QCOMPARE(problem.file, file);
+        QVERIFY(!problem.reason.isEmpty());
+        QVERIFY(problem.backup.startsWith(file + QStringLiteral(".broken-")));
+        QVERIFY(readAll(problem.backup) == broken);
+        QVERIFY(dialogDataNames(file).isEmpty());
+        ui::config::SDrawingHatch hatch;
+        hatch.initByDefault();
+        QVERIFY(hatch.saveDialogData());
+        QVERIFY(readAll(problem.backup) == broken);
     }
 
     void everyDialogIsRenderedWithItsTitleBar()

@@ -1,0 +1,23 @@
+#include "res/HatchResource.h"
+#include "res/ResourceTables.h"
+
+#include <iterator>
+
+namespace kesto::ui::config::res {
+
+namespace {
+
+const framework::StringEntry kStrings[] = {
+    {IDS_HATCH_CAPTION, "ハッチングパターンの設定"},
+    {IDS_HATCH_BASE_FIGURE_UNREGISTERED,
+     "基本図形[%s]がシステムに登録されて\nいないパターンハッチングは参照できません。"},
+};
+
+} // namespace
+
+bool registerHatchResources(framework::ResourceModule& module)
+{
+    return module.addStrings(kStrings, std::size(kStrings));
+}
+
+} // namespace kesto::ui::config::res

@@ -1,0 +1,455 @@
+// The hatch pattern records and the system's hatching registry: defaults, copies without
+// attributes, their XML with its defences and line-type rule, and the DOM helpers they use.
+#include "support/TestSupport.h"
+
+#include "setting/HatchPatterns.h"
+#include "setting/SystemHatchingSetting.h"
+#include "setting/SystemLineTypeSetting.h"
+#include "utility/Xml.h"
+
+#include <QFile>
+#include <QTest>
+
+#include <set>
+
+using namespace kesto;
+using namespace kesto::ui::setting;
+
+namespace {
+
+const KsColor kRed(0xFF0000, KsColor::System, L"赤");
+const KsColor kGreen(0x00A000, KsColor::System, L"緑");
+
+SHatchFrame frame(const KsColor& color, const wchar_t* lineType, bool keepColor = false)
+{
+    SHatchFrame f;
+    f.initByDefault();
+    f.color = color;
+    f.lineTypeName = lineType;
+    f.lineWidthKind = KsLineWidth::ExtraBold;
+    f.lineWidth = 1.0 / 3.0;
+    f.keepColor = keepColor;
+    return f;
+}
+
+SSlantPatternLine line(double angle, double spacing, const KsColor& color)
+{
+    SSlantPatternLine l;
+    l.initByDefault();
+    l.angle = angle;
+    l.spacing = spacing;
+    l.color = color;
+    l.placementX = -12.5;
+    l.placementY = 1e-7;
+    return l;
+}
+
+void giveFrames(CHatchPatternBase& p)
+{
+    p.outerFrame = frame(kRed, L"破線");
+    p.innerFrame = frame(kGreen, L"点線", true);
+    p.innerFrames = {frame(kRed, L"実線"), frame(kGreen, L"一点鎖線", true)};
+    p.innerFrames[1].drawFrame = false;
+}
+
+SSlantPattern twoLines()
+{
+    SSlantPattern p;
+    p.name = L"交差斜線（細）";
+    p.lines = {line(45.0, 1.5, kRed), line(135.0, 1.5, kGreen)};
+    giveFrames(p);
+    return p;
+}
+
+SFigurePattern tiles()
+{
+    SFigurePattern p;
+    p.name = L"ブロック積み";
+    p.baseFigureName = L"レンガ";
+    p.placement = {30.0, 15.0, 20.0, 105.0, 10.0, 19.5, 9.5};
+    giveFrames(p);
+    return p;
+}
+
+SCoatingPattern fill()
+{
+    SCoatingPattern p;
+    p.name = L"水面";
+    p.sameAsBackground = true;
+    p.color = kGreen;
+    p.drawOrder = SCoatingPattern::Opaque;
+    p.brushKind = 11;
+    p.transparent = true;
+    p.transparencyRate = 100;
+    p.drawAtBack = true;
+    giveFrames(p);
+    return p;
+}
+
+// The pattern's element, written into a fresh document.
+template <class Pattern>
+QDomElement written(const Pattern& p, QDomDocument& doc)
+{
+    QDomElement root = doc.createElement(QStringLiteral("root"));
+    doc.appendChild(root);
+    [&] { QVERIFY(p.saveXMLNode(root, doc)); }();
+    return root.firstChildElement();
+}
+
+QDomElement parsed(const QString& text)
+{
+    QDomDocument doc;
+    doc.setContent(text);
+    return doc.documentElement();
+}
+
+CSystemLineTypeSetting twoLineTypes()
+{
+    CSystemLineTypeSetting table;
+    table.setLineTypes({KsLineType(1, L"実線"), KsLineType(2, L"破線", KsLineType::Pattern)});
+    return table;
+}
+
+} // namespace
+
+class TestHatchPatterns : public QObject {
+    Q_OBJECT
+
+private slots:
+    void recordsAreClearedWhenBuiltAndPatternsStartFromDefaults()
+    {
+        const SHatchFrame cleared;
+        QVERIFY(!cleared.drawFrame && cleared.lineTypeName.empty() && cleared.lineWidth == 0.0);
+        SHatchFrame reset = cleared;
+        reset.initByDefault();
+        QVERIFY(reset.drawFrame && reset.color.isByLayer() && reset.lineTypeName == L"実線");
+        QCOMPARE(reset.lineWidthKind, int(KsLineWidth::Thin));
+        QVERIFY(!reset.keepDrawFrame && !reset.keepColor && !reset.keepLineType
+                && !reset.keepLineWidth);
+        QCOMPARE(SSlantPatternLine().spacing, 0.0);
+
+        SSlantPattern slant = twoLines();
+        slant.initByDefault();
+        QVERIFY(slant == SSlantPattern());
+        QCOMPARE(slant.lines.size(), std::size_t(1));
+        QVERIFY(slant.lines[0].spacing > 0.0);
+        QVERIFY(slant.outerFrame == reset && slant.innerFrames.empty());
+        SFigurePattern figure = tiles();
+        figure.initByDefault();
+        QVERIFY(figure == SFigurePattern());
+        SCoatingPattern coating = fill();
+        coating.initByDefault();
+        QVERIFY(coating == SCoatingPattern());
+        QVERIFY(!coating.transparent);
+        SHoldPattern hold;
+        giveFrames(hold);
+        hold.initByDefault();
+        QVERIFY(hold == SHoldPattern());
+    }
+
+    void copyingWithoutAttributesKeepsTheFramesAndColours()
+    {
+        SFigurePattern figure;
+        figure.copyWithoutAttribute(tiles());
+        QVERIFY(figure.name == L"ブロック積み" && figure.baseFigureName == L"レンガ");
+        QVERIFY(figure.placement == tiles().placement);
+        QVERIFY(figure.outerFrame == SFigurePattern().outerFrame);
+        QVERIFY(figure.innerFrames.empty());
+
+        // Three source lines onto two: the third takes the last line's attributes.
+        SSlantPattern slant = twoLines();
+        SSlantPattern source;
+        source.name = L"三方向";
+        source.lines = {line(0.0, 3.0, kGreen), line(60.0, 4.0, kGreen), line(120.0, 5.0, kGreen)};
+        slant.copyWithoutAttribute(source);
+        QVERIFY(slant.name == L"三方向");
+        QCOMPARE(slant.lines.size(), std::size_t(3));
+        QVERIFY(slant.lines[0].color == kRed);
+        QVERIFY(slant.lines[1].color == kGreen);
+        QVERIFY(slant.lines[2].color == kGreen);
+        QCOMPARE(slant.lines[2].angle, 120.0);
+        QCOMPARE(slant.lines[2].spacing, 5.0);
+        QVERIFY(slant.outerFrame == twoLines().outerFrame);
+        QCOMPARE(slant.innerFrames.size(), std::size_t(2));
+
+        SSlantPattern empty;
+        empty.lines.clear();
+        empty.copyWithoutAttribute(source);
+        QVERIFY(empty.lines[0].color.isByLayer()); // the default line's colour
+        QCOMPARE(empty.lines[0].spacing, 3.0);
+
+        SCoatingPattern coating;
+        coating.copyWithoutAttribute(fill());
+        QVERIFY(coating.name == L"水面");
+        QCOMPARE(coating.brushKind, 11);
+        QVERIFY(coating.transparent && coating.drawAtBack);
+        QCOMPARE(coating.drawOrder, int(SCoatingPattern::Opaque));
+        QVERIFY(coating.color == SCoatingPattern().color && !coating.sameAsBackground);
+        QVERIFY(coating.innerFrame == SCoatingPattern().innerFrame);
+
+        SHoldPattern hold;
+        SHoldPattern other;
+        giveFrames(other);
+        hold.copyWithoutAttribute(other);
+        QVERIFY(hold == SHoldPattern());
+    }
+
+    void everyPatternRoundTripsThroughItsElement()
+    {
+        QDomDocument doc;
+        SFigurePattern figure;
+        QVERIFY(figure.loadXMLNode(written(tiles(), doc), nullptr));
+        QVERIFY(figure == tiles());
+        SSlantPattern slant;
+        QVERIFY(slant.loadXMLNode(written(twoLines(), doc), nullptr));
+        QVERIFY(slant == twoLines());
+        SCoatingPattern coating;
+        QVERIFY(coating.loadXMLNode(written(fill(), doc), nullptr));
+        QVERIFY(coating == fill());
+        SHoldPattern hold;
+        SHoldPattern source;
+        giveFrames(source);
+        QVERIFY(hold.loadXMLNode(written(source, doc), nullptr));
+        QVERIFY(hold == source);
+
+        // An emptied list is written as empty, so it comes back empty.
+        SSlantPattern noLines = twoLines();
+        noLines.lines.clear();
+        noLines.innerFrames.clear();
+        slant = twoLines();
+        QVERIFY(slant.loadXMLNode(written(noLines, doc), nullptr));
+        QVERIFY(slant == noLines);
+
+        // Each pattern answers to its own element only.
+        QVERIFY(!figure.loadXMLNode(written(twoLines(), doc), nullptr));
+        QVERIFY(!slant.loadXMLNode(written(fill(), doc), nullptr));
+        QVERIFY(!coating.loadXMLNode(QDomNode(), nullptr));
+    }
+
+    void missingAttributesKeepTheirFields()
+    {
+        SCoatingPattern coating = fill();
+        QVERIFY(coating.loadXMLNode(parsed(QStringLiteral("<CoatingPattern brushKind=\"4\">"
+                                                          "<InnerFrame draw=\"0\"/>"
+                                                          "</CoatingPattern>")),
+                                    nullptr));
+        SCoatingPattern expected = fill();
+        expected.brushKind = 4;
+        expected.innerFrame.drawFrame = false;
+        QVERIFY(coating == expected);
+
+        // A slant pattern reads at most four lines; each starts from the default line.
+        SSlantPattern slant = twoLines();
+        QVERIFY(slant.loadXMLNode(
+            parsed(QStringLiteral("<SlantPattern><Lines><Line angle=\"10\"/><Line/><Line/><Line/>"
+                                  "<Line/><Line/></Lines></SlantPattern>")),
+            nullptr));
+        QCOMPARE(slant.lines.size(), SSlantPattern::kMaxLines);
+        QCOMPARE(slant.lines[0].angle, 10.0);
+        QCOMPARE(slant.lines[1].spacing, 2.0);
+        QVERIFY(slant.name == twoLines().name);
+        QVERIFY(slant.outerFrame == twoLines().outerFrame);
+    }
+
+    void aMalformedValueRefusesTheWholeElement_data()
+    {
+        QTest::addColumn<QString>("xml");
+        QTest::newRow("spacing 0") << "<SlantPattern><Lines><Line spacing=\"0\"/></Lines>"
+                                      "</SlantPattern>";
+        QTest::newRow("spacing text") << "<SlantPattern><Lines><Line/><Line spacing=\"2mm\"/>"
+                                         "</Lines></SlantPattern>";
+        QTest::newRow("angle nan") << "<SlantPattern><Lines><Line angle=\"nan\"/></Lines>"
+                                      "</SlantPattern>";
+        QTest::newRow("x inf") << "<SlantPattern><Lines><Line x=\"inf\"/></Lines></SlantPattern>";
+        QTest::newRow("width kind") << "<SlantPattern><OuterFrame widthKind=\"5\"/></SlantPattern>";
+        QTest::newRow("negative width") << "<SlantPattern><InnerFrame width=\"-0.1\"/>"
+                                           "</SlantPattern>";
+        QTest::newRow("colour name") << "<SlantPattern><OuterFrame color=\"red\"/></SlantPattern>";
+        QTest::newRow("colour type") << "<SlantPattern><OuterFrame colorType=\"x\"/>"
+                                        "</SlantPattern>";
+        QTest::newRow("flag") << "<SlantPattern><InnerFrames><Frame keepColor=\"yes\"/>"
+                                 "</InnerFrames></SlantPattern>";
+        QTest::newRow("brush") << "<CoatingPattern brushKind=\"12\"/>";
+        QTest::newRow("rate") << "<CoatingPattern transparencyRate=\"101\"/>";
+        QTest::newRow("order") << "<CoatingPattern drawOrder=\"-1\"/>";
+        QTest::newRow("length") << "<FigurePattern length1=\"0\"/>";
+        QTest::newRow("height") << "<FigurePattern height=\"-3\"/>";
+        QTest::newRow("huge angle") << "<FigurePattern baseAngle=\"1e300\"/>";
+    }
+
+    void aMalformedValueRefusesTheWholeElement()
+    {
+        QFETCH(QString, xml);
+        const QDomElement e = parsed(xml);
+        QVERIFY(!e.isNull());
+        SSlantPattern slant = twoLines();
+        SCoatingPattern coating = fill();
+        SFigurePattern figure = tiles();
+        QVERIFY(!slant.loadXMLNode(e, nullptr));
+        QVERIFY(!coating.loadXMLNode(e, nullptr));
+        QVERIFY(!figure.loadXMLNode(e, nullptr));
+        QVERIFY(slant == twoLines());
+        QVERIFY(coating == fill());
+        QVERIFY(figure == tiles());
+    }
+
+    void unknownStoredLineTypesFallBackToTheSystemsFirst()
+    {
+        SSlantPattern stored = twoLines();
+        stored.lines[0].lineTypeName = L"破線";
+        stored.lines[1].lineTypeName = L"長破線";
+        stored.outerFrame.lineTypeName = L"長破線";
+        stored.outerFrame.lineTypeFlag = true;
+        stored.innerFrame.lineTypeName = L"波線";
+        QDomDocument doc;
+        const QDomElement e = written(stored, doc);
+
+        const CSystemLineTypeSetting table = twoLineTypes();
+        SSlantPattern loaded;
+        QVERIFY(loaded.loadXMLNode(e, &table));
+        QVERIFY(loaded.lines[0].lineTypeName == L"破線");
+        QVERIFY(loaded.lines[1].lineTypeName == L"実線");
+        QVERIFY(loaded.outerFrame.lineTypeName == L"長破線"); // by layer: kept
+        QVERIFY(loaded.innerFrame.lineTypeName == L"実線");
+
+        const CSystemLineTypeSetting empty;
+        QVERIFY(loaded.loadXMLNode(e, &empty));
+        QVERIFY(loaded.lines[1].lineTypeName == L"長破線");
+        QVERIFY(loaded.loadXMLNode(e, nullptr));
+        QVERIFY(loaded == stored);
+    }
+
+    void theDefaultRegistryIsConsistent()
+    {
+        const CSystemHatchingSetting s = CSystemHatchingSetting::makeDefault();
+        QVERIFY(s.getBaseFigures().size() >= 4);
+        QVERIFY(!s.getFigurePatterns().empty() && !s.getSlantPatterns().empty()
+                && !s.getCoatingPatterns().empty());
+        for (const SFigurePattern& p : s.getFigurePatterns())
+            QVERIFY2(s.isBaseFigureRegistered(p.baseFigureName),
+                     qPrintable(QString::fromStdWString(p.name)));
+        for (const SSlantPattern& p : s.getSlantPatterns()) {
+            QVERIFY(!p.lines.empty() && p.lines.size() <= SSlantPattern::kMaxLines);
+            for (const SSlantPatternLine& l : p.lines)
+                QVERIFY(l.spacing > 0.0 && !l.lineTypeName.empty());
+        }
+        for (const SBaseFigure& f : s.getBaseFigures())
+            QVERIFY(!f.segments.empty());
+        QVERIFY(s.findSlantPattern(L"交差斜線")->lines.size() == 2);
+        QVERIFY(s.findCoatingPattern(L"水面")->transparent);
+        QVERIFY(!s.findFigurePattern(L"存在しない"));
+        QVERIFY(!s.isBaseFigureRegistered(L""));
+    }
+
+    void theRegistryRoundTripsAndRefusesBadFiles()
+    {
+        test::HostFixture host;
+        const std::wstring path = host.path(QStringLiteral("hatching.xml")).toStdWString();
+        CSystemHatchingSetting s = CSystemHatchingSetting::makeDefault();
+        QVERIFY(s.setSlantPatterns({twoLines()}));
+        QVERIFY(s.saveXML(path));
+        CSystemHatchingSetting loaded;
+        QVERIFY(loaded.loadXML(path));
+        QVERIFY(loaded.isSame(s));
+        QVERIFY(!loaded.isSame(CSystemHatchingSetting::makeDefault()));
+
+        const QString bad[] = {
+            // The same name twice in one kind.
+            "<SystemHatchingSetting><CoatingPatterns><CoatingPattern name=\"a\"/>"
+            "<CoatingPattern name=\"a\"/></CoatingPatterns></SystemHatchingSetting>",
+            // A pattern without a name.
+            "<SystemHatchingSetting><SlantPatterns><SlantPattern/></SlantPatterns>"
+            "</SystemHatchingSetting>",
+            // A segment outside the figure's square.
+            "<SystemHatchingSetting><BaseFigures><BaseFigure name=\"a\">"
+            "<Segment x1=\"0\" y1=\"0\" x2=\"1.5\" y2=\"1\"/></BaseFigure></BaseFigures>"
+            "</SystemHatchingSetting>",
+            "<SystemHatchingSetting><FigurePatterns><FigurePattern name=\"a\" length2=\"x\"/>"
+            "</FigurePatterns></SystemHatchingSetting>",
+        };
+        for (const QString& text : bad) {
+            CSystemHatchingSetting target = s;
+            QVERIFY2(!target.loadXMLNode(parsed(text)), qPrintable(text));
+            QVERIFY(target.isSame(s));
+        }
+        // The same name in different kinds is fine.
+        QVERIFY(loaded.loadXMLNode(parsed(QStringLiteral(
+            "<SystemHatchingSetting><SlantPatterns><SlantPattern name=\"a\"/></SlantPatterns>"
+            "<CoatingPatterns><CoatingPattern name=\"a\"/></CoatingPatterns>"
+            "</SystemHatchingSetting>"))));
+        QVERIFY(loaded.getBaseFigures().empty() && loaded.getSlantPatterns().size() == 1);
+    }
+
+    void settersRefuseEmptyAndRepeatedNames()
+    {
+        CSystemHatchingSetting s = CSystemHatchingSetting::makeDefault();
+        const CSystemHatchingSetting before = s;
+        SFigurePattern unnamed = tiles();
+        unnamed.name.clear();
+        QVERIFY(!s.setFigurePatterns({tiles(), unnamed}));
+        QVERIFY(!s.setFigurePatterns({tiles(), tiles()}));
+        QVERIFY(!s.setCoatingPatterns({fill(), fill()}));
+        QVERIFY(!s.setBaseFigures({{L"a", {{0, 0, 1, 1}}}, {L"a", {}}}));
+        QVERIFY(!s.setBaseFigures({{L"b", {{-0.1, 0, 1, 1}}}}));
+        QVERIFY(s.isSame(before));
+        QVERIFY(s.setFigurePatterns({tiles()}));
+        QVERIFY(s.findFigurePattern(L"ブロック積み"));
+    }
+
+    void domHelpersFindCreateWriteAndRead()
+    {
+        namespace xml = utility::xml;
+        QDomDocument doc;
+        QVERIFY(
+            xml::parse(doc, "<r><d name=\"A\"/><d/><d name=\"B\">1</d><d name=\"B\">2</d></r>"));
+        QDomElement found;
+        QVERIFY(xml::findByAttribute(found, doc.elementsByTagName(QStringLiteral("d")),
+                                     QStringLiteral("name"), QStringLiteral("B")));
+        QCOMPARE(found.text(), QStringLiteral("1"));
+        QVERIFY(!xml::findByAttribute(found, doc.elementsByTagName(QStringLiteral("d")),
+                                      QStringLiteral("name"), QString()));
+
+        QDomElement e;
+        QVERIFY(!xml::createElement(e, doc, QStringLiteral("1abc")));
+        QVERIFY(!xml::createElement(e, doc, QStringLiteral("a b")));
+        QVERIFY(xml::createElement(e, doc, QStringLiteral("図形_1")));
+        QVERIFY(!xml::writeAttributeText(e, QStringLiteral("x=y"), QStringLiteral("1")));
+        QVERIFY(xml::writeAttributeText(e, QStringLiteral("name"), QStringLiteral("\"<&>")));
+        QDomNode root = doc.documentElement();
+        QDomElement number;
+        QVERIFY(xml::writeIntElement(number, root, doc, QStringLiteral("HatchType"), -42));
+        QCOMPARE(root.lastChild().toElement().text(), QStringLiteral("-42"));
+        int value = 7;
+        QVERIFY(xml::readInt(value, number));
+        QCOMPARE(value, -42);
+        number.firstChild().setNodeValue(QStringLiteral(" 12 "));
+        QVERIFY(xml::readInt(value, number));
+        QCOMPARE(value, 12);
+        for (const char* text : {"12a", "", "0x10", "99999999999"}) {
+            number.firstChild().setNodeValue(QString::fromLatin1(text));
+            QVERIFY(!xml::readInt(value, number));
+            QCOMPARE(value, 12);
+        }
+        QDomNode nowhere;
+        QVERIFY(!xml::writeIntElement(number, nowhere, doc, QStringLiteral("x"), 1));
+    }
+
+    void loadingHonoursItsNamespaceFlagAndSizeCap()
+    {
+        test::HostFixture host;
+        const QString path = host.path(QStringLiteral("ns.xml"));
+        QFile out(path);
+        QVERIFY(out.open(QIODevice::WriteOnly));
+        out.write("<k:root xmlns:k=\"urn:kesto\"><k:item/></k:root>");
+        out.close();
+        QDomDocument doc;
+        QVERIFY(utility::xml::load(doc, path.toStdWString(), true));
+        QCOMPARE(doc.documentElement().namespaceURI(), QStringLiteral("urn:kesto"));
+        QVERIFY(utility::xml::load(doc, path.toStdWString(), false));
+        QVERIFY(doc.documentElement().namespaceURI().isEmpty());
+        QVERIFY(!utility::xml::load(doc, path.toStdWString(), false, 16));
+    }
+};
+
+QTEST_MAIN(TestHatchPatterns)
+#include "tst_hatchpatterns.moc"

@@ -107,6 +107,15 @@ bool CKsListCtrl::removeRow(int row)
     return m_model->removeRowAt(row);
 }
 
+bool CKsListCtrl::removeRowAndSelectNext(int row)
+{
+    if (!m_model->removeRowAt(row))
+        return false;
+    if (getRowCount() > 0)
+        selectRow(std::min(row, getRowCount() - 1));
+    return true;
+}
+
 void CKsListCtrl::removeAllRows()
 {
     m_model->removeAllRows();

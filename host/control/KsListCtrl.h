@@ -36,6 +36,8 @@ public:
     void addRows(std::vector<SListRow> rows);
     void setRows(std::vector<SListRow> rows);
     bool removeRow(int row);
+    // Removes a row and selects the one that takes its place (or the new last one).
+    bool removeRowAndSelectNext(int row);
     void removeAllRows();
     bool moveRow(int from, int to);
     bool swapRows(int first, int second);

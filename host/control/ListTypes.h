@@ -55,6 +55,12 @@ struct SListCellEvent {
     QRgb color = 0;
 };
 
+// The cell change an observer was told of, or null for any other event.
+inline const SListCellEvent* cellChangeOf(int event, void* data)
+{
+    return event == LIST_EVENT_CELL_CHANGED ? static_cast<const SListCellEvent*>(data) : nullptr;
+}
+
 struct SListRowTextEvent {
     int row = -1;
     QString text;

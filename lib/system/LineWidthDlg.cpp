@@ -243,9 +243,7 @@ void CLineWidthDlg::OnBnClickedDelete()
         if (!rules::buttonStates(false, m_widths, row).deleteEnabled)
             return;
         m_widths.erase(m_widths.begin() + row);
-        m_list->removeRow(row);
-        if (!m_widths.empty())
-            m_list->selectRow(std::min(row, static_cast<int>(m_widths.size()) - 1));
+        m_list->removeRowAndSelectNext(row);
         refreshChoiceCombos();
         refreshButtons();
     });
@@ -326,9 +324,9 @@ void CLineWidthDlg::OnCbnSelchangeChoice(int choice, int index)
 
 void CLineWidthDlg::update(kesto::Subject* subject, int event, void* data)
 {
-    if (subject != m_list || event != control::LIST_EVENT_CELL_CHANGED || !data)
+    const auto* change = control::cellChangeOf(event, data);
+    if (subject != m_list || !change)
         return;
-    const auto* change = static_cast<const control::SListCellEvent*>(data);
     onCellChanged(change->row, change->column, change->text, change->color);
 }
 

@@ -139,9 +139,7 @@ void CSystemPaperSizeDlg::OnBnClickedDelete()
         const int row = m_list->getSelectedRow();
         if (row < 0)
             return;
-        m_list->removeRow(row);
-        if (m_list->getRowCount() > 0)
-            m_list->selectRow(std::min(row, m_list->getRowCount() - 1));
+        m_list->removeRowAndSelectNext(row);
         fillRowNameCombo(*m_initName, *m_list, rules::ColumnName);
         refreshButtons();
     });
@@ -163,9 +161,9 @@ void CSystemPaperSizeDlg::OnBnClickedHelp()
 
 void CSystemPaperSizeDlg::update(kesto::Subject* subject, int event, void* data)
 {
-    if (subject != m_list || event != control::LIST_EVENT_CELL_CHANGED || !data)
+    const auto* change = control::cellChangeOf(event, data);
+    if (subject != m_list || !change)
         return;
-    const auto* change = static_cast<const control::SListCellEvent*>(data);
     onCellChanged(change->row, change->column, change->text);
 }
 

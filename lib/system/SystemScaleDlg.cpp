@@ -169,9 +169,7 @@ void CSystemScaleDlg::OnBnClickedDelete()
         if (onDrawingTab() || row < 0)
             return;
         m_scales.erase(m_scales.begin() + row);
-        m_list->removeRow(row);
-        if (!m_scales.empty())
-            m_list->selectRow(std::min(row, static_cast<int>(m_scales.size()) - 1));
+        m_list->removeRowAndSelectNext(row);
         refreshButtons();
     });
 }
@@ -211,9 +209,9 @@ void CSystemScaleDlg::OnBnClickedHelp()
 
 void CSystemScaleDlg::update(kesto::Subject* subject, int event, void* data)
 {
-    if (subject != m_list || event != control::LIST_EVENT_CELL_CHANGED || !data)
+    const auto* change = control::cellChangeOf(event, data);
+    if (subject != m_list || !change)
         return;
-    const auto* change = static_cast<const control::SListCellEvent*>(data);
     onCellChanged(change->row, change->column, change->text);
 }
 

@@ -14,8 +14,7 @@ framework::ResourceModule* createModule()
     auto* module = new framework::ResourceModule(QStringLiteral("KsSystemConfigDlg"));
     const bool ok = res::registerCommonResources(*module) && res::registerSystemResources(*module)
                     && res::registerCustomizeResources(*module)
-                    && res::registerLayerResources(*module)
-                    && res::registerHatchResources(*module)
+                    && res::registerLayerResources(*module) && res::registerHatchResources(*module)
                     && framework::ResourceChain::instance().add(module);
     if (!ok) {
         delete module;

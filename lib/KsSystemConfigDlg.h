@@ -8,3 +8,4 @@
 #include "config/CustomizeEntries.h"
 #include "config/HatchSettingDlgData.h"
 #include "hatch/DrawingHatch.h"
+#include "config/DrawEntries.h"

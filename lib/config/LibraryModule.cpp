@@ -16,6 +16,7 @@ framework::ResourceModule* createModule()
                     && res::registerCustomizeResources(*module)
                     && res::registerLayerResources(*module)
                     && res::registerHatchResources(*module)
+                    && res::registerDrawResources(*module)
                     && framework::ResourceChain::instance().add(module);
     if (!ok) {
         delete module;

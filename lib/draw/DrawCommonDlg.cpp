@@ -61,6 +61,7 @@ CDrawCommonDlg::CDrawCommonDlg()
     : TSettingDialog(IDD_DRAW_COMMON)
 {
     setPlacementKey(QStringLiteral("DrawCommonDlg"));
+    keepFirstSizeAsMinimum(true);
 }
 
 bool CDrawCommonDlg::findControls()
@@ -141,6 +142,7 @@ void CDrawCommonDlg::fillLineEnds()
         combo->clear();
         for (const setting::SLineEnd& end : ends)
             combo->addArrow(end.getType(), end.getName());
+        combo->setCurrentIndex(-1); // a name the list lacks shows nothing and is kept
     }
     selectLineEnd(*m_startLineEnd, m_setting.getStartLineEndName());
     selectLineEnd(*m_endLineEnd, m_setting.getEndLineEndName());

@@ -129,7 +129,9 @@ void CDrawCommonDlg::fillLookControls()
     m_lineWidth->setLWidthByLayer(byLayer);
     m_lineWidth->init();
     m_color->selectColor(drawcommon::colorToSelect(m_setting));
-    m_lineType->selectLineType(drawcommon::lineTypeToSelect(m_setting));
+    const core::CSystemConfig* config = systemConfig();
+    m_lineType->selectLineType(
+        drawcommon::lineTypeToSelect(m_setting, config ? config->getCurrentDataBase() : nullptr));
     m_lineWidth->selectLineWidth(drawcommon::lineWidthToSelect(m_setting));
 }
 

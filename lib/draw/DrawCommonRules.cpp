@@ -16,11 +16,21 @@ KsColor colorToSelect(const CDrawCommonSetting& setting)
     return setting.getColor();
 }
 
-KsLineType lineTypeToSelect(const CDrawCommonSetting& setting)
+KsLineType lineTypeToSelect(const CDrawCommonSetting& setting, const IDataBase* drawing)
 {
     if (setting.getLineTypeMode() == CDrawCommonSetting::LineTypeModeByLayer)
         return KsLineType::byLayer();
-    return KsLineType(setting.getLineTypeMode(), setting.getLineTypeName());
+    KsLineType lineType(setting.getLineTypeMode(), setting.getLineTypeName());
+    if (!drawing || lineType.getName().empty())
+        return lineType;
+    for (const KsLineType* own : drawing->elementsOf<KsLineType>(L"LTYPE")) {
+        if (own->getName() == lineType.getName() && !own->isByLayer()) {
+            lineType.setKind(own->getKind());
+            lineType.setDashes(own->getDashes());
+            break;
+        }
+    }
+    return lineType;
 }
 
 KsLineWidth lineWidthToSelect(const CDrawCommonSetting& setting)

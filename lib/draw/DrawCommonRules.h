@@ -24,7 +24,9 @@ inline constexpr int kFirstExplicitWidthIndex = 4;
 
 // What the colour, line type and line width combo boxes show when the dialog opens.
 KsColor colorToSelect(const setting::CDrawCommonSetting& setting);
-KsLineType lineTypeToSelect(const setting::CDrawCommonSetting& setting);
+// A line type of the open drawing's table lends its dash pattern to the sample.
+KsLineType lineTypeToSelect(const setting::CDrawCommonSetting& setting,
+                            const IDataBase* drawing = nullptr);
 KsLineWidth lineWidthToSelect(const setting::CDrawCommonSetting& setting);
 
 // By layer: colour mode 2. Another entry: its colour (and mode 1), unless it is the invalid

@@ -35,7 +35,8 @@ void buildPickFigure(QDialog* dialog)
     auto* filterRow = new QHBoxLayout;
     auto* layerLabel = new QLabel(QStringLiteral("レイヤ"), dialog);
     auto* layer = new QComboBox(dialog);
-    layer->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    layer->setMinimumContentsLength(16);
+    layer->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     layerLabel->setBuddy(layer);
     setCtrlId(layer, IDC_PICK_LAYER);
     auto* count = new QLabel(dialog);
@@ -61,6 +62,7 @@ void buildPickFigure(QDialog* dialog)
     layout->addLayout(filterRow);
     layout->addWidget(list, 1);
     layout->addWidget(buttons);
+    dialog->setMinimumSize(480, 300);
     dialog->resize(740, 440);
 }
 

@@ -67,6 +67,15 @@ private slots:
         QVERIFY(s.getLineTypeName() == L"CENTER");
         QCOMPARE(lineTypeToSelect(s).getId(), KsLineType::kFirstDrawingId + 2);
         QVERIFY(lineTypeToSelect(s).getName() == L"CENTER");
+
+        // The open drawing's line type of that name lends its dashes, the stored id stays.
+        CMemoryDataBase db;
+        db.add<KsLineType>(KsLineType::kFirstDrawingId + 7, L"CENTER", KsLineType::Pattern,
+                           std::vector<double>{6.0, -1.0, 1.0, -1.0});
+        const KsLineType shown = lineTypeToSelect(s, &db);
+        QCOMPARE(shown.getId(), KsLineType::kFirstDrawingId + 2);
+        QCOMPARE(shown.getDashes().size(), std::size_t(4));
+        QCOMPARE(shown.getKind(), int(KsLineType::Pattern));
     }
 
     void widthKindFollowsTheIndexAndTheWidthIsAlwaysStored()

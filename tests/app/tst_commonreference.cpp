@@ -18,10 +18,8 @@
 #include "types/KsLayer.h"
 #include "types/KsScale.h"
 
-#include <QAbstractButton>
 #include <QComboBox>
 #include <QFile>
-#include <QLabel>
 #include <QTableView>
 #include <QTest>
 
@@ -196,32 +194,6 @@ private slots:
         QVERIFY(!QFile::exists(host.path(QStringLiteral("DrawCommonSetting.xml"))));
     }
 
-    void theListShowsOneLayerWhenAsked()
-    {
-        test::HostFixture host;
-        Workbench bench(host.folder());
-        ScopedModalDrivers drivers([](CKsDialog& d) { QVERIFY(test::click(d, Reference)); });
-        drivers.add([](CKsDialog& d) {
-            QCOMPARE(d.dlgItem<QLabel>(IDC_PICK_COUNT)->text(), QStringLiteral("6 個の要素"));
-            QComboBox& layers = combo(d, IDC_PICK_LAYER);
-            QCOMPARE(layers.itemText(0), QStringLiteral("すべてのレイヤ"));
-            QCOMPARE(layers.findText(QStringLiteral("予備")), -1); // it holds no figures
-            layers.setCurrentIndex(layers.findText(QStringLiteral("構造物")));
-            QCOMPARE(pickModel(d).rowCount(), 1);
-            QCOMPARE(d.dlgItem<QLabel>(IDC_PICK_COUNT)->text(), QStringLiteral("1 個の要素"));
-            const QModelIndex row = pickModel(d).index(0, CFigureListModel::ColumnLineType);
-            QCOMPARE(row.data().toString(), QStringLiteral("破線"));
-            pickList(d).selectRow(0);
-            QVERIFY(test::click(d, ui::framework::IDOK));
-        });
-        drivers.add([](CKsDialog& d) { QVERIFY(test::click(d, ui::framework::IDOK)); });
-        QVERIFY(bench.openCommon());
-        QCOMPARE(bench.common().getLineTypeMode(), 12); // the system's 破線
-        QCOMPARE(bench.common().getColor().getRGB(), 0x0000FFu);
-        QCOMPARE(bench.common().getWidthKind(), int(CDrawCommonSetting::WidthExplicit));
-        QCOMPARE(bench.common().getWidth(), 0.35);
-    }
-
     void withoutADrawingThereIsNothingToPick()
     {
         test::HostFixture host;
@@ -361,11 +333,13 @@ private slots:
         CMemoryDataBase db;
         const KsLayer* a = db.add<KsLayer>(L"A");
         const KsLayer* b = db.add<KsLayer>(L"B");
+        db.add<KsLayer>(L"C");
         for (int i = 0; i < 200000; ++i)
             db.add<KsFigure>(L"LINE", i % 4 ? a : b);
         ScopedModalDrivers drivers([](CKsDialog& d) {
             QCOMPARE(pickModel(d).rowCount(), 200000);
             QComboBox& layers = combo(d, IDC_PICK_LAYER);
+            QCOMPARE(layers.count(), 3); // all, A and B; C holds no figures
             layers.setCurrentIndex(layers.findText(QStringLiteral("B")));
             QCOMPARE(pickModel(d).rowCount(), 50000);
             QCOMPARE(pickModel(d).index(1, 0).data().toInt(), 5); // numbers of the whole list

@@ -6,15 +6,25 @@
 #include "types/KsFigure.h"
 #include "types/KsLayer.h"
 #include "types/KsScale.h"
+#include "utility/NumberFormat.h"
 #include "utility/Xml.h"
 
 #include <QFileInfo>
 
-#include <algorithm>
+#include <cmath>
+#include <unordered_map>
 
 namespace kesto::workbench {
 
 namespace {
+
+// What the reader has met so far, by name: layers and the line type table.
+struct SXmlDrawing {
+    CMemoryDataBase& db;
+    std::unordered_map<QString, KsLayer*> layers;
+    std::unordered_map<QString, KsLineType*> lineTypes;
+    int nextLineTypeId = KsLineType::kFirstDrawingId;
+};
 
 bool fail(QString* error, const QString& text)
 {
@@ -23,31 +33,74 @@ bool fail(QString* error, const QString& text)
     return false;
 }
 
-bool readScale(const QDomElement& e, CMemoryDataBase& db, QString* error)
+QString at(const QDomElement& e, const QString& text)
+{
+    return QStringLiteral("line %1: %2").arg(e.lineNumber()).arg(text);
+}
+
+bool isByLayer(const QString& value)
+{
+    return value.isEmpty() || value.compare(QStringLiteral("bylayer"), Qt::CaseInsensitive) == 0;
+}
+
+// The table's line type of that name, added (solid) when the drawing has not listed it.
+KsLineType* lineTypeNamed(SXmlDrawing& d, const QString& name,
+                          const std::vector<double>& dashes = {})
+{
+    if (const auto found = d.lineTypes.find(name); found != d.lineTypes.end())
+        return found->second;
+    const int kind = dashes.empty() ? KsLineType::Solid : KsLineType::Pattern;
+    auto* lineType = d.db.add<KsLineType>(d.nextLineTypeId++, name.toStdWString(), kind, dashes);
+    d.lineTypes.emplace(name, lineType);
+    return lineType;
+}
+
+bool readLineType(const QDomElement& e, SXmlDrawing& d, QString* error)
+{
+    const QString name = e.attribute(QStringLiteral("name"));
+    if (name.isEmpty() || isByLayer(name))
+        return fail(error, at(e, QStringLiteral("a line type needs a name other than bylayer")));
+    if (d.lineTypes.count(name))
+        return fail(error, at(e, QStringLiteral("the line type %1 is listed twice").arg(name)));
+    std::vector<double> dashes;
+    for (const QString& part :
+         e.attribute(QStringLiteral("dashes")).split(u' ', Qt::SkipEmptyParts)) {
+        const std::optional<double> dash = utility::parseDecimal(part);
+        if (!dash || !std::isfinite(*dash) || *dash == 0)
+            return fail(error,
+                        at(e, QStringLiteral("dashes are lengths in mm, not 0: %1").arg(part)));
+        dashes.push_back(*dash);
+    }
+    lineTypeNamed(d, name, dashes);
+    return true;
+}
+
+bool readScale(const QDomElement& e, SXmlDrawing& d, QString* error)
 {
     double numerator = 0;
     double denominator = 0;
     if (!utility::xml::readDoubleAttribute(e, QStringLiteral("numerator"), numerator)
         || !utility::xml::readDoubleAttribute(e, QStringLiteral("denominator"), denominator)
         || numerator <= 0 || denominator <= 0)
-        return fail(error, QStringLiteral("line %1: a scale needs numerator and denominator "
-                                          "greater than zero")
-                               .arg(e.lineNumber()));
-    auto* scale = db.add<KsScale>(numerator, denominator);
+        return fail(error, at(e, QStringLiteral("a scale needs numerator and denominator "
+                                                "greater than zero")));
+    auto* scale = d.db.add<KsScale>(numerator, denominator);
     if (e.hasAttribute(QStringLiteral("name")))
         scale->setName(e.attribute(QStringLiteral("name")).toStdWString());
     return true;
 }
 
-bool readLayer(const QDomElement& e, CMemoryDataBase& db, QString* error)
+bool readLayer(const QDomElement& e, SXmlDrawing& d, QString* error)
 {
     const QString name = e.attribute(QStringLiteral("name"));
     if (name.isEmpty())
-        return fail(error, QStringLiteral("line %1: a layer needs a name").arg(e.lineNumber()));
-    auto* layer = db.add<KsLayer>(name.toStdWString());
+        return fail(error, at(e, QStringLiteral("a layer needs a name")));
+    auto* layer = d.db.add<KsLayer>(name.toStdWString());
+    d.layers.emplace(name, layer);
     const QColor color(e.attribute(QStringLiteral("color"), QStringLiteral("#000000")));
     layer->setColor(KsColor(color.isValid() ? color.rgb() : 0, KsColor::System));
-    layer->setLineType(KsLineType(0, e.attribute(QStringLiteral("linetype")).toStdWString()));
+    const QString lineType = e.attribute(QStringLiteral("linetype"));
+    layer->setLineType(lineType.isEmpty() ? KsLineType(0, {}) : *lineTypeNamed(d, lineType));
     layer->setLineWidth(KsLineWidth(e.attribute(QStringLiteral("width")).toDouble()));
     layer->setComment(e.attribute(QStringLiteral("comment")).toStdWString());
     layer->visible(e.attribute(QStringLiteral("visible"), QStringLiteral("1")) != u"0");
@@ -56,27 +109,24 @@ bool readLayer(const QDomElement& e, CMemoryDataBase& db, QString* error)
     return true;
 }
 
-bool readCoordinateSystem(const QDomElement& e, CMemoryDataBase& db, QString* error)
+bool readCoordinateSystem(const QDomElement& e, SXmlDrawing& d, QString* error)
 {
     const QString name = e.attribute(QStringLiteral("name"));
     if (name.isEmpty())
-        return fail(
-            error, QStringLiteral("line %1: a coordinate system needs a name").arg(e.lineNumber()));
-    db.add<KsCoordinateSystem>(name.toStdWString());
+        return fail(error, at(e, QStringLiteral("a coordinate system needs a name")));
+    d.db.add<KsCoordinateSystem>(name.toStdWString());
     return true;
 }
 
-bool readLineWidth(const QDomElement& e, CMemoryDataBase& db, QString* error)
+bool readLineWidth(const QDomElement& e, SXmlDrawing& d, QString* error)
 {
     double width = 0;
     if (!utility::xml::readDoubleAttribute(e, QStringLiteral("width"), width) || width <= 0)
-        return fail(error, QStringLiteral("line %1: a line width needs a width greater than zero")
-                               .arg(e.lineNumber()));
+        return fail(error, at(e, QStringLiteral("a line width needs a width greater than zero")));
     const QColor color(e.attribute(QStringLiteral("color"), QStringLiteral("#FFFFFF")));
     if (!color.isValid())
-        return fail(error,
-                    QStringLiteral("line %1: the colour must be #RRGGBB").arg(e.lineNumber()));
-    auto* lineWidth = db.add<KsLineWidth>(width);
+        return fail(error, at(e, QStringLiteral("the colour must be #RRGGBB")));
+    auto* lineWidth = d.db.add<KsLineWidth>(width);
     lineWidth->setColor(color.rgb());
     lineWidth->setColorType(KsColor::System);
     lineWidth->setColorName(e.attribute(QStringLiteral("colorName")).toStdWString());
@@ -84,7 +134,7 @@ bool readLineWidth(const QDomElement& e, CMemoryDataBase& db, QString* error)
 }
 
 // Thin, bold and extra bold of the drawing; each attribute is optional.
-bool readWidthKinds(const QDomElement& e, CMemoryDataBase& db, QString* error)
+bool readWidthKinds(const QDomElement& e, SXmlDrawing& d, QString* error)
 {
     const std::pair<const char*, int> kinds[] = {{"thin", KsLineWidth::Thin},
                                                  {"bold", KsLineWidth::Bold},
@@ -95,28 +145,77 @@ bool readWidthKinds(const QDomElement& e, CMemoryDataBase& db, QString* error)
             continue;
         double width = 0;
         if (!utility::xml::readDoubleAttribute(e, attribute, width) || width <= 0)
-            return fail(error, QStringLiteral("line %1: %2 must be a width greater than zero")
-                                   .arg(e.lineNumber())
-                                   .arg(attribute));
-        db.setLineWidthOfKind(kind, KsLineWidth(width, kind));
+            return fail(
+                error,
+                at(e, QStringLiteral("%1 must be a width greater than zero").arg(attribute)));
+        d.db.setLineWidthOfKind(kind, KsLineWidth(width, kind));
     }
     return true;
 }
 
-// A figure on one of the layers listed before it.
-bool readFigure(const QDomElement& e, CMemoryDataBase& db, QString* error)
+// A figure's width: bylayer, thin, bold, extrabold (the drawing's) or millimetres.
+bool readFigureWidth(const QDomElement& e, SXmlDrawing& d, KsFigure& figure, QString* error)
 {
-    const std::wstring name = e.attribute(QStringLiteral("layer")).toStdWString();
-    const auto layers = db.elementsOf<KsLayer>(L"LAYER");
-    const auto found = std::find_if(layers.begin(), layers.end(),
-                                    [&](const KsLayer* layer) { return layer->getName() == name; });
-    if (found == layers.end())
-        return fail(error, QStringLiteral("line %1: a figure needs the name of a layer listed "
-                                          "before it")
-                               .arg(e.lineNumber()));
-    db.add<KsFigure>(e.attribute(QStringLiteral("kind"), QStringLiteral("LINE")).toStdWString(),
-                     *found);
+    const QString text = e.attribute(QStringLiteral("width")).trimmed().toLower();
+    if (isByLayer(text))
+        return true;
+    const std::pair<const char*, int> kinds[] = {{"thin", KsLineWidth::Thin},
+                                                 {"bold", KsLineWidth::Bold},
+                                                 {"extrabold", KsLineWidth::ExtraBold}};
+    for (const auto& [name, kind] : kinds) {
+        KsLineWidth width;
+        if (text == QLatin1String(name) && d.db.getLineWidthOfKind(kind, width)) {
+            figure.setLineWidth(width.getWidth(), kind);
+            return true;
+        }
+    }
+    const std::optional<double> width = utility::parseDecimal(text);
+    if (!width || !(*width >= 0 && *width <= KsFigure::kMaxWidth))
+        return fail(error, at(e, QStringLiteral("a figure's width is bylayer, thin, bold, "
+                                                "extrabold or 0 to 65.535 mm, not %1")
+                                     .arg(text)));
+    figure.setLineWidth(*width);
     return true;
+}
+
+// A figure on one of the layers listed before it, with its own look where it says so.
+bool readFigure(const QDomElement& e, SXmlDrawing& d, QString* error)
+{
+    const auto layer = d.layers.find(e.attribute(QStringLiteral("layer")));
+    if (layer == d.layers.end())
+        return fail(error, at(e, QStringLiteral("a figure needs the name of a layer listed "
+                                                "before it")));
+    const QString colorText = e.attribute(QStringLiteral("color"));
+    const QColor color(colorText);
+    if (!isByLayer(colorText) && !color.isValid())
+        return fail(error, at(e, QStringLiteral("a figure's colour is bylayer or #RRGGBB")));
+    auto* figure = d.db.add<KsFigure>(
+        e.attribute(QStringLiteral("kind"), QStringLiteral("LINE")).toStdWString(), layer->second);
+    if (!isByLayer(colorText))
+        figure->setColor(KsColor(color.rgb(), KsColor::User));
+    const QString lineType = e.attribute(QStringLiteral("linetype"));
+    if (!isByLayer(lineType))
+        figure->setLineType(lineTypeNamed(d, lineType));
+    return readFigureWidth(e, d, *figure, error);
+}
+
+bool readElement(const QDomElement& e, SXmlDrawing& d, QString* error)
+{
+    using Reader = bool (*)(const QDomElement&, SXmlDrawing&, QString*);
+    static const std::pair<const char*, Reader> readers[] = {
+        {"scale", readScale},
+        {"layer", readLayer},
+        {"coordsys", readCoordinateSystem},
+        {"linewidth", readLineWidth},
+        {"linewidthkinds", readWidthKinds},
+        {"linetype", readLineType},
+        {"figure", readFigure},
+    };
+    for (const auto& [tag, reader] : readers) {
+        if (e.tagName() == QLatin1String(tag))
+            return reader(e, d, error);
+    }
+    return true; // unknown elements are left alone
 }
 
 } // namespace
@@ -136,21 +235,9 @@ std::unique_ptr<CMemoryDataBase> readXmlDrawing(const QString& path, QString* er
     }
     auto db = std::make_unique<CMemoryDataBase>(
         root.attribute(QStringLiteral("title"), QFileInfo(path).fileName()).toStdWString());
+    SXmlDrawing drawing{*db, {}, {}};
     for (QDomElement e = root.firstChildElement(); !e.isNull(); e = e.nextSiblingElement()) {
-        bool ok = true;
-        if (e.tagName() == u"scale")
-            ok = readScale(e, *db, &reason);
-        else if (e.tagName() == u"layer")
-            ok = readLayer(e, *db, &reason);
-        else if (e.tagName() == u"coordsys")
-            ok = readCoordinateSystem(e, *db, &reason);
-        else if (e.tagName() == u"linewidth")
-            ok = readLineWidth(e, *db, &reason);
-        else if (e.tagName() == u"linewidthkinds")
-            ok = readWidthKinds(e, *db, &reason);
-        else if (e.tagName() == u"figure")
-            ok = readFigure(e, *db, &reason);
-        if (!ok) {
+        if (!readElement(e, drawing, &reason)) {
             fail(error, QStringLiteral("%1: %2").arg(path, reason));
             return nullptr;
         }

@@ -99,6 +99,12 @@ void CDxfCollector::processCodeValuePair(unsigned int code, const std::string& v
         m_record.layer = value;
     } else if (code == 370) {
         m_record.lineWeight = toInt(value, -3);
+    } else if (code == 62) {
+        m_record.color = toInt(value, 256);
+    } else if (code == 420) {
+        m_record.trueColor = toInt(value, -1);
+    } else if (code == 6) {
+        m_record.lineType = value;
     } else if (code == 1001) {
         m_record.xdataApp = value;
     } else if (code == 1000 && m_record.xdataApp == "AcAecLayerStandard") {
@@ -131,8 +137,11 @@ void CDxfCollector::endRecord()
             m_viewports.push_back({m_record.handle, std::move(m_record.frozenHandles),
                                    std::move(m_record.frozenNames)});
         }
-        m_figures.push_back(
-            {kindIndex(m_record.kind), keyIndex(m_record.layer), inBlocks, viewport});
+        const auto weight = static_cast<std::int16_t>(std::clamp(m_record.lineWeight, -3, 211));
+        const auto color = static_cast<std::int16_t>(std::clamp(m_record.color, -256, 256));
+        m_figures.push_back({kindIndex(m_record.kind), keyIndex(m_record.layer), inBlocks, viewport,
+                             figureLineTypeIndex(m_record.lineType), m_record.trueColor, color,
+                             weight});
         if (m_record.lineWeight >= 0)
             m_lineWeights.insert(m_record.lineWeight);
     }
@@ -158,6 +167,22 @@ int CDxfCollector::kindIndex(const std::string& kind)
     const int index = static_cast<int>(m_kinds.size());
     m_kinds.push_back(kind);
     m_kindIndex.emplace(kind, index);
+    return index;
+}
+
+// BYLAYER, BYBLOCK and no name at all are -1: the figure takes its layer's line type.
+int CDxfCollector::figureLineTypeIndex(const std::string& rawName)
+{
+    if (rawName.empty())
+        return -1;
+    std::string key = keyOf(rawName);
+    if (key == "BYLAYER" || key == "BYBLOCK")
+        return -1;
+    if (const auto found = m_figureLineTypeIndex.find(key); found != m_figureLineTypeIndex.end())
+        return found->second;
+    const int index = static_cast<int>(m_figureLineTypes.size());
+    m_figureLineTypes.push_back(key);
+    m_figureLineTypeIndex.emplace(std::move(key), index);
     return index;
 }
 
@@ -211,14 +236,47 @@ void CDxfCollector::addLayer(const DL_LayerData& data)
     m_layers.push_back(std::move(layer));
 }
 
-void CDxfCollector::addLineTypes(CMemoryDataBase& db) const
+std::vector<KsLineType*> CDxfCollector::addLineTypes(CMemoryDataBase& db) const
 {
-    int id = 0;
+    std::vector<KsLineType*> added;
+    int id = KsLineType::kFirstDrawingId;
     for (const SLineType& lineType : m_lineTypes) {
         const auto kind = lineTypeKind(keyOf(lineType.name), !lineType.dashes.empty());
-        db.add<KsLineType>(++id, m_decoder.decode(lineType.name).toStdWString(), kind,
-                           lineType.dashes);
+        added.push_back(db.add<KsLineType>(id++, m_decoder.decode(lineType.name).toStdWString(),
+                                           kind, lineType.dashes));
     }
+    return added;
+}
+
+// The table's line type for each name figures use; null where the table lacks the name.
+std::vector<const KsLineType*>
+CDxfCollector::lineTypesOfFigures(const std::vector<KsLineType*>& table) const
+{
+    std::vector<const KsLineType*> out;
+    out.reserve(m_figureLineTypes.size());
+    for (const std::string& key : m_figureLineTypes) {
+        const auto found = std::find_if(m_lineTypes.begin(), m_lineTypes.end(),
+                                        [&](const SLineType& t) { return keyOf(t.name) == key; });
+        out.push_back(found == m_lineTypes.end()
+                          ? nullptr
+                          : table[static_cast<std::size_t>(found - m_lineTypes.begin())]);
+    }
+    return out;
+}
+
+// ACI 256 is by layer; by block counts as by layer too, since a figure is shown on its own.
+void CDxfCollector::styleFigure(KsFigure& figure, const SFigure& source,
+                                const std::vector<const KsLineType*>& lineTypes) const
+{
+    const bool colorByLayer = source.trueColor < 0 && (source.color == 256 || source.color == 0);
+    if (!colorByLayer)
+        figure.setColor(colorOf(source.color, source.trueColor));
+    if (source.lineType >= 0)
+        figure.setLineType(lineTypes[static_cast<std::size_t>(source.lineType)]);
+    if (source.weight >= 0)
+        figure.setLineWidth(source.weight / 100.0);
+    else if (source.weight == -3)
+        figure.setLineWidth(m_defaultLineWeight / 100.0);
 }
 
 KsLayer* CDxfCollector::addLayer(CMemoryDataBase& db, const SLayer& source) const
@@ -230,9 +288,9 @@ KsLayer* CDxfCollector::addLayer(CMemoryDataBase& db, const SLayer& source) cons
                                     [&](const auto& t) { return keyOf(t.name) == lineTypeKey; });
     const std::wstring lineTypeName = m_decoder.decode(source.lineType).toStdWString();
     if (found != m_lineTypes.end())
-        layer->setLineType(
-            KsLineType(static_cast<int>(found - m_lineTypes.begin()) + 1, lineTypeName,
-                       lineTypeKind(lineTypeKey, !found->dashes.empty()), found->dashes));
+        layer->setLineType(KsLineType(
+            static_cast<int>(found - m_lineTypes.begin()) + KsLineType::kFirstDrawingId,
+            lineTypeName, lineTypeKind(lineTypeKey, !found->dashes.empty()), found->dashes));
     else
         layer->setLineType(KsLineType(0, lineTypeName));
     KsLineWidth width(source.lineWeight >= 0 ? source.lineWeight / 100.0
@@ -249,7 +307,8 @@ KsLayer* CDxfCollector::addLayer(CMemoryDataBase& db, const SLayer& source) cons
     return layer;
 }
 
-void CDxfCollector::addFigures(CMemoryDataBase& db, std::vector<KsLayer*>& layerOfKey)
+void CDxfCollector::addFigures(CMemoryDataBase& db, std::vector<KsLayer*>& layerOfKey,
+                               const std::vector<const KsLineType*>& lineTypes)
 {
     std::vector<std::wstring> kindNames;
     kindNames.reserve(m_kinds.size());
@@ -266,8 +325,9 @@ void CDxfCollector::addFigures(CMemoryDataBase& db, std::vector<KsLayer*>& layer
             addViewport(db, m_viewports[static_cast<std::size_t>(figure.viewport)], layer,
                         figure.inBlock);
         else
-            db.add<KsFigure>(kindNames[static_cast<std::size_t>(figure.kind)], layer,
-                             figure.inBlock);
+            styleFigure(*db.add<KsFigure>(kindNames[static_cast<std::size_t>(figure.kind)], layer,
+                                          figure.inBlock),
+                        figure, lineTypes);
     }
 }
 
@@ -307,7 +367,7 @@ void CDxfCollector::addLineWidths(CMemoryDataBase& db) const
 void CDxfCollector::build(CMemoryDataBase& db)
 {
     endRecord();
-    addLineTypes(db);
+    const std::vector<const KsLineType*> figureLineTypes = lineTypesOfFigures(addLineTypes(db));
     std::unordered_map<std::string, KsLayer*> layerOfName;
     std::unordered_map<std::wstring, KsLayer*> layerOfText; // \U+ written one way, read another
     for (const SLayer& source : m_layers) {
@@ -329,7 +389,7 @@ void CDxfCollector::build(CMemoryDataBase& db)
             layer = text->second;
         layerOfKey.push_back(layer);
     }
-    addFigures(db, layerOfKey);
+    addFigures(db, layerOfKey, figureLineTypes);
     addLineWidths(db);
     const auto current = layerOfName.find(keyOf(m_currentLayer));
     if (!m_currentLayer.empty() && current != layerOfName.end())

@@ -4,13 +4,16 @@
 
 #include <dl_creationadapter.h>
 
+#include <cstdint>
 #include <set>
 #include <string>
 #include <unordered_map>
 #include <vector>
 
 class CMemoryDataBase;
+class KsFigure;
 class KsLayer;
+class KsLineType;
 
 namespace kesto::workbench::dxf {
 
@@ -55,7 +58,10 @@ private:
         std::string xdataApp;
         std::vector<std::string> xdataStrings;
         std::vector<double> dashes;
-        int lineWeight = -3;
+        int lineWeight = -1; // by layer unless the record says otherwise
+        int color = 256;     // ACI; 256 by layer, 0 by block
+        int trueColor = -1;
+        std::string lineType;
         std::string handle;
         int viewportId = 0;
         std::vector<std::string> frozenHandles; // layers frozen in a viewport (R2000 and later)
@@ -71,16 +77,25 @@ private:
         int kind;
         int layer; // index into m_layerKeys
         bool inBlock;
-        int viewport; // index into m_viewports, or -1
+        int viewport;        // index into m_viewports, or -1
+        int lineType;        // index into m_figureLineTypes, or -1 for by layer
+        int trueColor;       // -1 for none
+        std::int16_t color;  // ACI
+        std::int16_t weight; // 1/100 mm; -1 by layer, -2 by block, -3 the default
     };
 
     void endRecord();
     void readViewportPair(unsigned int code, const std::string& value);
     int keyIndex(const std::string& rawName);
     int kindIndex(const std::string& kind);
-    void addLineTypes(CMemoryDataBase& db) const;
+    int figureLineTypeIndex(const std::string& rawName);
+    std::vector<KsLineType*> addLineTypes(CMemoryDataBase& db) const;
+    std::vector<const KsLineType*> lineTypesOfFigures(const std::vector<KsLineType*>& table) const;
+    void styleFigure(KsFigure& figure, const SFigure& source,
+                     const std::vector<const KsLineType*>& lineTypes) const;
     KsLayer* addLayer(CMemoryDataBase& db, const SLayer& layer) const;
-    void addFigures(CMemoryDataBase& db, std::vector<KsLayer*>& layerOfKey);
+    void addFigures(CMemoryDataBase& db, std::vector<KsLayer*>& layerOfKey,
+                    const std::vector<const KsLineType*>& lineTypes);
     void addViewport(CMemoryDataBase& db, const SViewport& viewport, const KsLayer* layer,
                      bool inBlock) const;
     void addLineWidths(CMemoryDataBase& db) const;
@@ -98,6 +113,8 @@ private:
     std::unordered_map<std::string, int> m_kindIndex;
     std::vector<std::string> m_layerKeys; // raw layer names of figures, as first written
     std::unordered_map<std::string, int> m_keyIndex;
+    std::vector<std::string> m_figureLineTypes; // line type keys figures name
+    std::unordered_map<std::string, int> m_figureLineTypeIndex;
     std::set<int> m_lineWeights;
     std::string m_currentLayer;
     int m_defaultLineWeight = 25;

@@ -44,20 +44,26 @@ bool renderWidget(QWidget& widget, const QString& file)
 
 namespace {
 
-// Runs open once per shot, rendering the dialog it shows and cancelling it.
+// Runs open once per shot, rendering the dialog it shows and cancelling it. A shot may end its
+// dialog itself and lead to further dialogs; the second and later are numbered (NAME-2.png).
 template <class Open>
 void renderShots(const QString& dir, const QString& id, const std::vector<Shot>& shots,
                  QStringList& written, Open open)
 {
     for (const Shot& shot : shots) {
         const QString name = shot.suffix.isEmpty() ? id : id + u'-' + shot.suffix;
-        const QString file = QDir(dir).filePath(name + QStringLiteral(".png"));
+        int shown = 0;
         ModalHook::setStandingDriver([&](CKsDialog& dialog) {
+            ++shown;
+            const QString file =
+                QDir(dir).filePath((shown == 1 ? name : name + u'-' + QString::number(shown))
+                                   + QStringLiteral(".png"));
             if (shot.arrange)
                 shot.arrange(dialog);
             if (renderWidget(dialog, file))
                 written << file;
-            dialog.EndDialog(ui::framework::IDCANCEL);
+            if (!dialog.isEnded())
+                dialog.EndDialog(ui::framework::IDCANCEL);
         });
         open();
     }

@@ -67,6 +67,7 @@ std::vector<SettingFactory> hostSettings();
 // Per subsystem.
 void addSystemTopics(std::vector<Topic>& topics);
 void addCustomizeTopics(std::vector<Topic>& topics);
+void addDrawTopics(std::vector<Topic>& topics);
 
 // A dialog the workbench opens on the current drawing rather than on a setting (the layer
 // flags of the drawing's views). Listed and rendered only while a drawing is open.
@@ -82,5 +83,17 @@ struct DrawingTopic {
 
 std::vector<DrawingTopic> allDrawingTopics();
 void addLayerDrawingTopics(std::vector<DrawingTopic>& topics);
+
+} // namespace kesto::workbench
+
+namespace kesto::ui::config {
+struct SDrawCommonDlgData;
+}
+
+namespace kesto::workbench {
+
+// What the drawing commands keep between calls of "共通設定": the chosen coordinate system,
+// scale and layer.
+ui::config::SDrawCommonDlgData& commonDrawRecord();
 
 } // namespace kesto::workbench

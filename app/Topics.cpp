@@ -12,6 +12,7 @@ std::vector<Topic> allTopics()
     std::vector<Topic> topics;
     addSystemTopics(topics);
     addCustomizeTopics(topics);
+    addDrawTopics(topics);
     return topics;
 }
 

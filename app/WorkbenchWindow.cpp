@@ -187,6 +187,7 @@ void WorkbenchWindow::runOwnCommand(const QString& id)
         {QStringLiteral("ID_SETTING_SCALE"), QStringLiteral("system-scale")},
         {QStringLiteral("ID_SETTING_SHORTCUT"), QStringLiteral("shortcut-keys")},
         {QStringLiteral("ID_SETTING_MOUSE"), QStringLiteral("mouse")},
+        {QStringLiteral("ID_SETTING_DRAW_COMMON"), QStringLiteral("draw-common")},
     };
     if (const Topic* topic = m_session.findTopic(topics.value(id)))
         openTopic(*topic);

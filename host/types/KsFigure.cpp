@@ -1,5 +1,9 @@
 #include "types/KsFigure.h"
 
+#include "types/KsLineType.h"
+
+#include <algorithm>
+#include <cmath>
 #include <mutex>
 #include <set>
 
@@ -19,8 +23,45 @@ const std::wstring* internKind(std::wstring_view kind)
 
 } // namespace
 
+// Drawings hold millions of figures: 40 bytes take the same heap block as the bare figure did.
+static_assert(sizeof(KsFigure) <= 40, "a figure must stay small");
+
 KsFigure::KsFigure(std::wstring_view kind, const KsLayer* layer, bool inBlock)
     : m_kind(internKind(kind))
     , m_layer(layer)
     , m_inBlock(inBlock)
 {}
+
+KsColor KsFigure::getColor() const
+{
+    if (isColorByLayer())
+        return KsColor::byLayer();
+    return KsColor(m_color & 0xFFFFFFu, colorType());
+}
+
+void KsFigure::setColor(const KsColor& color)
+{
+    const auto type = static_cast<std::uint32_t>(color.getColorType()) & 0xFFu;
+    m_color = color.isByLayer() ? 0u : (type << 24) | (color.getRGB() & 0xFFFFFFu);
+}
+
+void KsFigure::setLineType(const KsLineType* lineType)
+{
+    m_lineType = lineType && !lineType->isByLayer() ? lineType : nullptr;
+}
+
+KsLineWidth KsFigure::getLineWidth() const
+{
+    if (isLineWidthByLayer())
+        return KsLineWidth(0.0, KsLineWidth::ByLayer);
+    return KsLineWidth(m_widthMicrometres / 1000.0, m_widthKind);
+}
+
+void KsFigure::setLineWidth(double width, int kind)
+{
+    if (kind < KsLineWidth::Explicit || kind > KsLineWidth::ExtraBold)
+        kind = KsLineWidth::Explicit;
+    m_widthKind = static_cast<std::uint8_t>(kind);
+    const double clamped = std::isfinite(width) ? std::clamp(width, 0.0, kMaxWidth) : 0.0;
+    m_widthMicrometres = static_cast<std::uint16_t>(std::lround(clamped * 1000.0));
+}

@@ -10,6 +10,9 @@
 class KsLineType : public KsObject {
 public:
     enum EKind { Solid = 0, Pattern = 1, ByBlock = 2, ByLayer = 3 };
+    // A drawing's own line types are numbered from here, apart from the system's (11 up) and
+    // from the line-type modes of the drawing settings (10 and below).
+    static constexpr int kFirstDrawingId = 1001;
 
     KsLineType() = default;
     KsLineType(int id, std::wstring name, int kind = Solid, std::vector<double> dashes = {});

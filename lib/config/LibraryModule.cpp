@@ -15,6 +15,7 @@ framework::ResourceModule* createModule()
     const bool ok = res::registerCommonResources(*module) && res::registerSystemResources(*module)
                     && res::registerCustomizeResources(*module)
                     && res::registerLayerResources(*module) && res::registerHatchResources(*module)
+                    && res::registerDrawResources(*module)
                     && framework::ResourceChain::instance().add(module);
     if (!ok) {
         delete module;

@@ -12,6 +12,7 @@ bool registerSystemResources(framework::ResourceModule& module);
 bool registerCustomizeResources(framework::ResourceModule& module);
 bool registerLayerResources(framework::ResourceModule& module);
 bool registerHatchResources(framework::ResourceModule& module);
+bool registerDrawResources(framework::ResourceModule& module);
 
 // A layout made by uic: the controls are children of the dialog, the Ui object is not kept.
 template <class Ui>

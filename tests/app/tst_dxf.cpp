@@ -12,6 +12,7 @@
 #include "element/KsViewPort.h"
 #include "types/KsFigure.h"
 #include "types/KsLayer.h"
+#include "types/KsLineType.h"
 
 #include <QFile>
 #include <QTest>
@@ -462,6 +463,56 @@ private slots:
         QCOMPARE(layerNames(*db), QStringList({"0", "TEXTS"}));
         QCOMPARE(countFigures(*db).figures, 3);
         QVERIFY(countFigures(*db).emptyLayers.isEmpty());
+    }
+
+    // Entities' own colour (62, 420), line type (6) and line weight (370); by layer and by
+    // block, and names the table lacks, leave the layer's.
+    void entitiesKeepTheirOwnLook()
+    {
+        QByteArray text = pairs(
+            {{0, "SECTION"},    {2, "HEADER"}, {9, "$ACADVER"}, {1, "AC1015"},  {9, "$LWDEFAULT"},
+             {370, "50"},       {0, "ENDSEC"}, {0, "SECTION"},  {2, "TABLES"},  {0, "TABLE"},
+             {2, "LTYPE"},      {0, "LTYPE"},  {2, "ByLayer"},  {70, "0"},      {0, "LTYPE"},
+             {2, "Continuous"}, {70, "0"},     {0, "LTYPE"},    {2, "DASHED"},  {70, "0"},
+             {73, "2"},         {49, "6.35"},  {49, "-3.175"},  {0, "ENDTAB"},  {0, "TABLE"},
+             {2, "LAYER"},      {0, "LAYER"},  {2, "ROAD"},     {70, "0"},      {62, "3"},
+             {6, "Continuous"}, {0, "ENDTAB"}, {0, "ENDSEC"},   {0, "SECTION"}, {2, "ENTITIES"}});
+        const QList<QList<std::pair<int, QByteArray>>> entities = {
+            {{62, "1"}, {6, "dashed"}, {370, "35"}},
+            {{62, "5"}, {420, "16744448"}, {370, "-3"}},
+            {{62, "256"}, {6, "BYLAYER"}, {370, "-1"}},
+            {{62, "0"}, {6, "ByBlock"}, {370, "-2"}},
+            {{6, "NO_SUCH_TYPE"}},
+        };
+        for (const auto& look : entities) {
+            text += pairs({{0, "LINE"}, {8, "ROAD"}});
+            for (const auto& [code, value] : look)
+                text += pairs({{code, value}});
+            text += pairs({{10, "0"}, {20, "0"}, {11, "1"}, {21, "1"}});
+        }
+        text += pairs({{0, "ENDSEC"}, {0, "EOF"}});
+        QString error;
+        const auto db = readText(text, &error);
+        QVERIFY2(db, qPrintable(error));
+        const auto lines = db->elementsOf<KsFigure>(L"LINE");
+        QCOMPARE(int(lines.size()), 5);
+        const auto table = db->elementsOf<KsLineType>(L"LTYPE");
+        QCOMPARE(table.front()->getId(), KsLineType::kFirstDrawingId);
+        QCOMPARE(lines[0]->getColor().getRGB(), 0xFF0000u);
+        QCOMPARE(lines[0]->getLineType(), table[2]); // the table's own, by pointer
+        QCOMPARE(lines[0]->getLineType()->getDashes().size(), std::size_t(2));
+        QCOMPARE(lines[0]->getLineWidth().getWidth(), 0.35);
+        QCOMPARE(lines[0]->getLineWidth().getKind(), int(KsLineWidth::Explicit));
+        QCOMPARE(lines[1]->getColor().getRGB(), 0xFF8000u); // true colour wins over ACI
+        QCOMPARE(lines[1]->getLineWidth().getWidth(), 0.5); // "default" is $LWDEFAULT
+        QVERIFY(lines[1]->isLineTypeByLayer());
+        for (const KsFigure* byLayer : {lines[2], lines[3], lines[4]}) {
+            QVERIFY(byLayer->isColorByLayer());
+            QVERIFY(byLayer->isLineTypeByLayer());
+            QVERIFY(byLayer->isLineWidthByLayer());
+        }
+        QCOMPARE(layerNamed(*db, QStringLiteral("ROAD"))->getLineType().getId(),
+                 KsLineType::kFirstDrawingId + 1);
     }
 
     void missingAndUnknownFilesNameThePath()

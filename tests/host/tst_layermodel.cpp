@@ -55,6 +55,47 @@ private slots:
         QCOMPARE(db.countElements(L"LINE"), std::size_t(2));
     }
 
+    // A figure's own look: by layer until set, colours of every type kept with their RGB,
+    // widths to the micrometre within their range, a by-layer line type stored as none.
+    void figuresKeepTheirOwnLookCompactly()
+    {
+        CMemoryDataBase db;
+        auto* layer = db.add<KsLayer>(L"構造物");
+        const auto* dashed = db.add<KsLineType>(KsLineType::kFirstDrawingId, L"DASHED");
+        const auto* byLayerType = db.add<KsLineType>(KsLineType::byLayer());
+        auto* figure = db.add<KsFigure>(L"LINE", layer);
+        QVERIFY(figure->isColorByLayer() && figure->getColor().isByLayer());
+        QVERIFY(figure->isLineTypeByLayer() && figure->isLineWidthByLayer());
+        QCOMPARE(figure->getLineWidth().getKind(), int(KsLineWidth::ByLayer));
+
+        figure->setColor(KsColor(0x000000, KsColor::System, L"黒"));
+        QVERIFY(!figure->isColorByLayer()); // black is a colour, not "by layer"
+        QCOMPARE(figure->getColor().getColorType(), int(KsColor::System));
+        figure->setColor(KsColor(0xFFFFFF, KsColor::User));
+        QCOMPARE(figure->getColor().getRGB(), 0xFFFFFFu);
+        QCOMPARE(figure->getColor().getColorType(), int(KsColor::User));
+        figure->setColor(KsColor::byLayer());
+        QVERIFY(figure->isColorByLayer());
+
+        figure->setLineType(dashed);
+        QCOMPARE(figure->getLineType(), dashed);
+        figure->setLineType(byLayerType);
+        QVERIFY(figure->isLineTypeByLayer());
+
+        figure->setLineWidth(0.1234);
+        QCOMPARE(figure->getLineWidth().getWidth(), 0.123);
+        figure->setLineWidth(0.5, KsLineWidth::Bold);
+        QCOMPARE(figure->getLineWidth().getKind(), int(KsLineWidth::Bold));
+        QCOMPARE(figure->getLineWidth().getWidth(), 0.5);
+        figure->setLineWidth(80.0);
+        QCOMPARE(figure->getLineWidth().getWidth(), KsFigure::kMaxWidth);
+        figure->setLineWidth(-1.0, 17); // no such kind: an explicit width
+        QCOMPARE(figure->getLineWidth().getKind(), int(KsLineWidth::Explicit));
+        QCOMPARE(figure->getLineWidth().getWidth(), 0.0);
+        figure->setLineWidth(0.0, KsLineWidth::ByLayer);
+        QVERIFY(figure->isLineWidthByLayer());
+    }
+
     void aPreviewChangesHowTheViewIsDrawnNotWhatItStores()
     {
         KsViewPort port(L"北側");

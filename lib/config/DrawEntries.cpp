@@ -1,0 +1,15 @@
+#include "config/DrawEntries.h"
+
+#include "config/ModalProtocol.h"
+#include "draw/DrawCommonDlg.h"
+
+namespace kesto::ui::config {
+
+bool doDrawCommonDlg(setting::CDrawCommonSetting& setting, SDrawCommonDlgData* data)
+{
+    const setting::CDrawCommonSetting* noReset = nullptr;
+    return runSettingDialog<CDrawCommonDlg>(setting, noReset, CopyBack::Always,
+                                            [data](CDrawCommonDlg& dlg) { dlg.setDlgData(data); });
+}
+
+} // namespace kesto::ui::config

@@ -1,0 +1,435 @@
+// "共通設定" end to end through doDrawCommonDlg: what it opens with, how each control is stored,
+// the copy back after every result, the reference request and the null record.
+#include "support/TestSupport.h"
+
+#include "config/DrawEntries.h"
+#include "control/ArrowComboBox.h"
+#include "control/SelectLineWidthComboBox.h"
+#include "control/SystemColorComboBox.h"
+#include "control/SystemLineTypeComboBox.h"
+#include "db/MemoryDataBase.h"
+#include "framework/ColorChooser.h"
+#include "framework/ModalHook.h"
+#include "setting/LineEndSetting.h"
+#include "setting/LineWidthSetting.h"
+#include "setting/SystemColorSetting.h"
+#include "setting/SystemLineTypeSetting.h"
+#include "tooltip/DlgToolTipManager.h"
+#include "types/KsCoordinateSystem.h"
+#include "types/KsLayer.h"
+#include "types/KsScale.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QTest>
+
+using namespace kesto;
+using namespace kesto::ui::framework;
+using namespace kesto::ui::setting;
+using kesto::test::click;
+using kesto::test::isEnabled;
+using ui::config::SDrawCommonDlgData;
+using ui::control::CArrowComboBox;
+using ui::control::CSystemColorComboBox;
+using ui::control::CSystemLineTypeComboBox;
+using ui::control::SelectLineWidthComboBox;
+
+namespace {
+
+enum {
+    Reference = 7491,
+    Color = 7495,
+    CoordSys = 7781,
+    Scale = 7782,
+    Layer = 7783,
+    LineType = 7784,
+    LineWidth = 7785,
+    StartEnd = 7786,
+    EndEnd = 7787,
+    Virtual = 7788,
+    Help = 7500
+};
+
+// The host's tables, and a drawing with coordinate systems, scales and layers open in it.
+struct Host {
+    test::HostFixture fixture;
+    CMemoryDataBase db{L"道路改良平面図"};
+
+    explicit Host(bool withDrawing = true)
+    {
+        core::CSystemConfig& config = fixture.config();
+        config.putSetting(
+            std::make_unique<CSystemColorSetting>(CSystemColorSetting::makeDefault()));
+        config.putSetting(std::make_unique<CColorSetting>());
+        config.putSetting(
+            std::make_unique<CSystemLineTypeSetting>(CSystemLineTypeSetting::makeDefault()));
+        config.putSetting(std::make_unique<CLineWidthSetting>(CLineWidthSetting::makeDefault()));
+        config.putSetting(std::make_unique<CLineEndSetting>(CLineEndSetting::makeDefault()));
+        db.add<KsCoordinateSystem>(L"平面直角座標系 IX");
+        db.add<KsCoordinateSystem>(L"ローカル座標");
+        db.add<KsScale>(L"1/500", 1.0, 500.0);
+        db.add<KsScale>(L"横断 1/200", 1.0, 200.0);
+        db.add<KsLayer>(L"道路中心線");
+        db.add<KsLayer>(L"構造物");
+        db.add<KsLayer>(L"構造物 (旧)");
+        if (withDrawing)
+            config.setCurrentDataBase(&db);
+    }
+    CColorSetting& customColors() { return *fixture.config().getSetting<CColorSetting>(); }
+};
+
+// Red, dash-dotted, bold, from a black dot to an arrow, made virtual.
+CDrawCommonSetting styled()
+{
+    CDrawCommonSetting s;
+    s.setColorMode(CDrawCommonSetting::ColorModeColor);
+    s.setColor(KsColor(0xFF0000, KsColor::System, L"赤"));
+    s.setLineTypeMode(13);
+    s.setLineTypeName(L"一点鎖線");
+    s.setWidth(0.35);
+    s.setWidthKind(CDrawCommonSetting::WidthBold);
+    s.setStartLineEndName(L"黒丸");
+    s.setEndLineEndName(L"矢印");
+    s.setVirtualElement(true);
+    return s;
+}
+
+SDrawCommonDlgData record(bool referenceEnabled)
+{
+    SDrawCommonDlgData data;
+    data.referenceEnabled = referenceEnabled;
+    data.coordinateSystemName = L"ローカル座標";
+    data.scaleName = L"横断 1/200";
+    data.layerName = L"構造物";
+    return data;
+}
+
+QComboBox& combo(CKsDialog& d, int id)
+{
+    return *d.dlgItem<QComboBox>(id);
+}
+
+QString shown(CKsDialog& d, int id)
+{
+    return combo(d, id).currentText();
+}
+
+QStringList entries(QComboBox& c)
+{
+    QStringList out;
+    for (int i = 0; i < c.count(); ++i)
+        out << c.itemText(i);
+    return out;
+}
+
+// The user picks an entry by its text, as from the drop-down list.
+void choose(CKsDialog& d, int id, const QString& text)
+{
+    QComboBox& c = combo(d, id);
+    const int index = c.findText(text);
+    QVERIFY2(index >= 0, qPrintable(text));
+    c.setCurrentIndex(index);
+    emit c.activated(index);
+}
+
+void chooseIndex(CKsDialog& d, int id, int index)
+{
+    QComboBox& c = combo(d, id);
+    c.setCurrentIndex(index);
+    emit c.activated(index);
+}
+
+bool sameNames(const SDrawCommonDlgData& a, const SDrawCommonDlgData& b)
+{
+    return a.coordinateSystemName == b.coordinateSystemName && a.scaleName == b.scaleName
+           && a.layerName == b.layerName;
+}
+
+// Runs the dialog once with a driver; returns the entry function's result.
+bool runOnce(CDrawCommonSetting& setting, SDrawCommonDlgData* data, ModalHook::Driver driver)
+{
+    ScopedModalDrivers drivers(std::move(driver));
+    const bool ok = ui::config::doDrawCommonDlg(setting, data);
+    return ok && drivers.pending() == 0;
+}
+
+} // namespace
+
+class TestDrawCommonDlg : public QObject {
+    Q_OBJECT
+
+private slots:
+    void opensOnTheSettingAndTheRecord()
+    {
+        Host host;
+        CDrawCommonSetting setting = styled();
+        SDrawCommonDlgData data = record(true);
+        QVERIFY(runOnce(setting, &data, [](CKsDialog& d) {
+            QCOMPARE(d.windowTitle(), QStringLiteral("共通設定"));
+            QCOMPARE(entries(combo(d, Layer)),
+                     QStringList({"道路中心線", "構造物", "構造物 (旧)"}));
+            QCOMPARE(shown(d, CoordSys), QStringLiteral("ローカル座標"));
+            QCOMPARE(shown(d, Scale), QStringLiteral("横断 1/200"));
+            QCOMPARE(shown(d, Layer), QStringLiteral("構造物"));
+            QCOMPARE(combo(d, Color).itemText(0), QStringLiteral("レイヤ依存"));
+            QCOMPARE(combo(d, Color).itemText(combo(d, Color).count() - 1),
+                     QStringLiteral("他の色"));
+            QCOMPARE(combo(d, LineType).itemText(0), QStringLiteral("レイヤ依存"));
+            QCOMPARE(combo(d, LineWidth).itemText(0), QStringLiteral("レイヤ依存"));
+            QCOMPARE(shown(d, Color), QStringLiteral("赤"));
+            QCOMPARE(shown(d, LineType), QStringLiteral("一点鎖線"));
+            QCOMPARE(combo(d, LineWidth).currentIndex(), 2); // bold
+            QCOMPARE(entries(combo(d, StartEnd)),
+                     QStringList({"なし", "矢印", "塗矢印", "黒丸", "白丸", "斜線", "止め線"}));
+            QCOMPARE(shown(d, StartEnd), QStringLiteral("黒丸"));
+            QCOMPARE(shown(d, EndEnd), QStringLiteral("矢印"));
+            QVERIFY(d.dlgItem<QCheckBox>(Virtual)->isChecked());
+            QVERIFY(isEnabled(d, Reference));
+            QVERIFY(isEnabled(d, CoordSys) && isEnabled(d, Scale) && isEnabled(d, Layer));
+            QVERIFY(click(d, IDOK));
+        }));
+        QVERIFY(setting.isSame(styled())); // nothing changed, nothing lost
+        QVERIFY(sameNames(data, record(true)));
+    }
+
+    void byLayerEntriesStoreTheirModes()
+    {
+        Host host;
+        CDrawCommonSetting setting = styled();
+        QVERIFY(runOnce(setting, nullptr, [](CKsDialog& d) {
+            chooseIndex(d, Color, 0);
+            chooseIndex(d, LineType, 0);
+            chooseIndex(d, LineWidth, 0);
+            QVERIFY(click(d, IDOK));
+        }));
+        QCOMPARE(setting.getColorMode(), int(CDrawCommonSetting::ColorModeByLayer));
+        QVERIFY(setting.getColor() == styled().getColor()); // kept for a later choice
+        QCOMPARE(setting.getLineTypeMode(), int(CDrawCommonSetting::LineTypeModeByLayer));
+        QCOMPARE(setting.getWidthKind(), int(CDrawCommonSetting::WidthByLayer));
+
+        // And the dialog opens on them again.
+        QVERIFY(runOnce(setting, nullptr, [](CKsDialog& d) {
+            QCOMPARE(combo(d, Color).currentIndex(), 0);
+            QCOMPARE(combo(d, LineType).currentIndex(), 0);
+            QCOMPARE(combo(d, LineWidth).currentIndex(), 0);
+            QVERIFY(click(d, IDOK));
+        }));
+    }
+
+    void widthEntriesStoreTheirKindAndWidth()
+    {
+        Host host;
+        // index, kind, width: the fixed widths are the system's 0.18, 0.35 and 0.7.
+        const std::tuple<int, int, double> cases[] = {
+            {1, CDrawCommonSetting::WidthThin, 0.18},
+            {3, CDrawCommonSetting::WidthExtraBold, 0.7},
+            {4, CDrawCommonSetting::WidthExplicit, 0.13},
+            {7, CDrawCommonSetting::WidthExplicit, 0.35},
+        };
+        for (const auto& [index, kind, width] : cases) {
+            CDrawCommonSetting setting = styled();
+            QVERIFY(runOnce(setting, nullptr, [index = index](CKsDialog& d) {
+                chooseIndex(d, LineWidth, index);
+                QVERIFY(click(d, IDOK));
+            }));
+            QCOMPARE(setting.getWidthKind(), kind);
+            QCOMPARE(setting.getWidth(), width);
+        }
+    }
+
+    void explicitChoicesAreStored()
+    {
+        Host host;
+        CDrawCommonSetting setting; // all by layer, no line ends
+        QVERIFY(runOnce(setting, nullptr, [](CKsDialog& d) {
+            choose(d, Color, QStringLiteral("緑"));
+            choose(d, LineType, QStringLiteral("破線"));
+            choose(d, StartEnd, QStringLiteral("塗矢印"));
+            choose(d, EndEnd, QStringLiteral("止め線"));
+            d.dlgItem<QCheckBox>(Virtual)->setChecked(true);
+            QVERIFY(click(d, IDOK));
+        }));
+        QCOMPARE(setting.getColorMode(), int(CDrawCommonSetting::ColorModeColor));
+        QCOMPARE(QString::fromStdWString(setting.getColor().getName()), QStringLiteral("緑"));
+        QCOMPARE(setting.getLineTypeMode(), 12);
+        QCOMPARE(QString::fromStdWString(setting.getLineTypeName()), QStringLiteral("破線"));
+        QCOMPARE(QString::fromStdWString(setting.getStartLineEndName()), QStringLiteral("塗矢印"));
+        QCOMPARE(QString::fromStdWString(setting.getEndLineEndName()), QStringLiteral("止め線"));
+        QVERIFY(setting.isVirtualElement());
+    }
+
+    // Values the tables no longer offer are shown and kept, or left alone when unknown.
+    void valuesOutsideTheTablesSurviveAnOk()
+    {
+        Host host;
+        CDrawCommonSetting setting = styled();
+        setting.setColor(KsColor(0x123456, KsColor::User));
+        setting.setLineTypeMode(KsLineType::kFirstDrawingId);
+        setting.setLineTypeName(L"CENTER2");
+        setting.setWidth(0.4);
+        setting.setWidthKind(CDrawCommonSetting::WidthExplicit);
+        setting.setStartLineEndName(L"旧矢印");
+        const CDrawCommonSetting before = setting;
+        QVERIFY(runOnce(setting, nullptr, [](CKsDialog& d) {
+            QCOMPARE(shown(d, Color), QStringLiteral("RGB(18,52,86)"));
+            QCOMPARE(shown(d, LineType), QStringLiteral("CENTER2"));
+            QCOMPARE(shown(d, LineWidth), QStringLiteral("0.4"));
+            QCOMPARE(combo(d, StartEnd).currentIndex(), -1);
+            QVERIFY(click(d, IDOK));
+        }));
+        QCOMPARE(setting.getColor().getRGB(), 0x123456u);
+        QCOMPARE(setting.getLineTypeMode(), KsLineType::kFirstDrawingId);
+        QCOMPARE(setting.getWidth(), 0.4);
+        QVERIFY(setting.getStartLineEndName() == before.getStartLineEndName());
+    }
+
+    void cancelHandsTheCallersValuesBack()
+    {
+        Host host;
+        CDrawCommonSetting setting = styled();
+        SDrawCommonDlgData data = record(true);
+        data.requestCode = SDrawCommonDlgData::RequestReference; // left from the last call
+        ScopedModalDrivers drivers([](CKsDialog& d) {
+            chooseIndex(d, Color, 0);
+            choose(d, LineType, QStringLiteral("点線"));
+            chooseIndex(d, LineWidth, 5);
+            choose(d, Layer, QStringLiteral("道路中心線"));
+            d.dlgItem<QCheckBox>(Virtual)->setChecked(false);
+            QVERIFY(click(d, IDCANCEL));
+        });
+        QVERIFY(!ui::config::doDrawCommonDlg(setting, &data));
+        QVERIFY(setting.isSame(styled()));
+        QVERIFY(sameNames(data, record(true)));
+        QCOMPARE(data.requestCode, int(SDrawCommonDlgData::RequestNone));
+
+        drivers.add([](CKsDialog& d) {
+            chooseIndex(d, Color, 0);
+            QTest::keyClick(&d, Qt::Key_Escape);
+        });
+        QVERIFY(!ui::config::doDrawCommonDlg(setting, &data));
+        QVERIFY(setting.isSame(styled()));
+    }
+
+    // "図面参照" closes with Cancel, yet the caller gets what the user had set; the host picks,
+    // changes the layer, and the dialog opens on all of it.
+    void referenceRequestHandsTheStoredControlsBack()
+    {
+        Host host;
+        CDrawCommonSetting setting = styled();
+        SDrawCommonDlgData data = record(true);
+        ScopedModalDrivers drivers([](CKsDialog& d) {
+            choose(d, LineType, QStringLiteral("二点鎖線"));
+            choose(d, Scale, QStringLiteral("1/500"));
+            QVERIFY(click(d, Reference));
+            QVERIFY(d.isEnded());
+        });
+        QVERIFY(!ui::config::doDrawCommonDlg(setting, &data));
+        QCOMPARE(data.requestCode, int(SDrawCommonDlgData::RequestReference));
+        QCOMPARE(QString::fromStdWString(setting.getLineTypeName()), QStringLiteral("二点鎖線"));
+        QCOMPARE(QString::fromStdWString(data.scaleName), QStringLiteral("1/500"));
+
+        // What the host takes from the picked element.
+        data.requestCode = SDrawCommonDlgData::RequestNone;
+        data.layerName = L"道路中心線";
+        setting.setColor(KsColor(0x0000FF, KsColor::System, L"青"));
+        drivers.add([](CKsDialog& d) {
+            QCOMPARE(shown(d, Layer), QStringLiteral("道路中心線"));
+            QCOMPARE(shown(d, Scale), QStringLiteral("1/500"));
+            QCOMPARE(shown(d, LineType), QStringLiteral("二点鎖線"));
+            QCOMPARE(shown(d, Color), QStringLiteral("青"));
+            QVERIFY(click(d, IDOK));
+        });
+        QVERIFY(ui::config::doDrawCommonDlg(setting, &data));
+        QCOMPARE(setting.getColor().getRGB(), 0x0000FFu);
+        QCOMPARE(setting.getLineTypeMode(), 14);
+        QCOMPARE(QString::fromStdWString(data.layerName), QStringLiteral("道路中心線"));
+    }
+
+    void withoutARecordNothingIsReferredTo()
+    {
+        Host host;
+        CDrawCommonSetting setting = styled();
+        QVERIFY(!runOnce(setting, nullptr, [](CKsDialog& d) {
+            for (int id : {CoordSys, Scale, Layer})
+                QCOMPARE(combo(d, id).currentIndex(), -1);
+            QVERIFY(!isEnabled(d, Reference));
+            QVERIFY(!click(d, Reference));
+            choose(d, Layer, QStringLiteral("構造物"));
+            QVERIFY(click(d, IDCANCEL));
+        }));
+        QVERIFY(setting.isSame(styled()));
+
+        SDrawCommonDlgData refused = record(false);
+        refused.layerName.clear();
+        QVERIFY(runOnce(setting, &refused, [](CKsDialog& d) {
+            QVERIFY(!isEnabled(d, Reference));
+            QCOMPARE(combo(d, Layer).currentIndex(), -1);
+            QVERIFY(click(d, IDOK)); // a list without a selection keeps its name
+        }));
+        QVERIFY(refused.layerName.empty());
+        QCOMPARE(QString::fromStdWString(refused.scaleName), QStringLiteral("横断 1/200"));
+    }
+
+    void withoutADrawingTheListsAreEmptyAndDisabled()
+    {
+        Host host(false);
+        CDrawCommonSetting setting = styled();
+        SDrawCommonDlgData data = record(false);
+        QVERIFY(runOnce(setting, &data, [](CKsDialog& d) {
+            for (int id : {CoordSys, Scale, Layer}) {
+                QCOMPARE(combo(d, id).count(), 0);
+                QVERIFY(!isEnabled(d, id));
+            }
+            QVERIFY(click(d, IDOK));
+        }));
+        QVERIFY(sameNames(data, record(false)));
+    }
+
+    // A colour mixed in the dialog joins the host's custom colours on OK only.
+    void mixedColoursReachTheHostOnOk()
+    {
+        Host host;
+        const auto previous = ColorChooserHook::setHandler(
+            [](const QColor&) { return std::optional<QColor>(QColor(0x40, 0x80, 0xC0)); });
+        auto mix = [](int closeWith) {
+            return [closeWith](CKsDialog& d) {
+                auto& color = *d.dlgItem<CSystemColorComboBox>(Color);
+                color.chooseEntry(color.getOtherColorIndex());
+                QCOMPARE(color.getCurColor().getRGB(), 0x4080C0u);
+                QVERIFY(click(d, closeWith));
+            };
+        };
+        CDrawCommonSetting setting;
+        QVERIFY(!runOnce(setting, nullptr, mix(IDCANCEL)));
+        QVERIFY(host.customColors().getCustomColors().empty());
+        QVERIFY(runOnce(setting, nullptr, mix(IDOK)));
+        QCOMPARE(host.customColors().getCustomColors(), std::vector<std::uint32_t>{0x4080C0});
+        QCOMPARE(setting.getColor().getRGB(), 0x4080C0u);
+        ColorChooserHook::setHandler(previous);
+    }
+
+    void helpAndToolTips()
+    {
+        Host host;
+        auto& catalog = ui::tooltip::ToolTipCatalog::instance();
+        QVERIFY(catalog.loadXML(QStringLiteral(KS_SOURCE_DIR "/app/resources/tooltips.xml")));
+        CDrawCommonSetting setting;
+        SDrawCommonDlgData data = record(true);
+        QVERIFY(runOnce(setting, &data, [](CKsDialog& d) {
+            for (int id : {CoordSys, Scale, Layer, Color, LineType, LineWidth, Reference, StartEnd,
+                           EndEnd, Virtual})
+                QVERIFY2(!d.GetDlgItem(id)->toolTip().isEmpty(), qPrintable(QString::number(id)));
+            for (const QLabel* label : d.findChildren<QLabel*>()) {
+                if (label->buddy())
+                    QCOMPARE(label->toolTip(), label->buddy()->toolTip());
+            }
+            QVERIFY(click(d, Help));
+            QVERIFY(click(d, IDOK));
+        }));
+        QCOMPARE(host.fixture.helpTopics(), QStringList{"DLG_HLP_SET_COMMON"});
+        catalog.clear();
+    }
+};
+
+QTEST_MAIN(TestDrawCommonDlg)
+#include "tst_drawcommondlg.moc"

@@ -25,17 +25,6 @@ using ui::framework::ColorChooserHook;
 
 namespace {
 
-// The host's tables as the workbench keeps them.
-void putTables(test::HostFixture& host)
-{
-    host.config().putSetting(
-        std::make_unique<CSystemColorSetting>(CSystemColorSetting::makeDefault()));
-    host.config().putSetting(std::make_unique<CColorSetting>());
-    host.config().putSetting(
-        std::make_unique<CSystemLineTypeSetting>(CSystemLineTypeSetting::makeDefault()));
-    host.config().putSetting(std::make_unique<CLineWidthSetting>(CLineWidthSetting::makeDefault()));
-}
-
 struct CountingObserver : IObserver {
     int count = 0;
     void update(Subject*, int, void*) override { ++count; }
@@ -81,7 +70,7 @@ private slots:
     void colourEntriesAreByLayerSystemColoursThenOther()
     {
         test::HostFixture host;
-        putTables(host);
+        host.putTables();
         CSystemColorComboBox combo;
         combo.setTextByLayer(QStringLiteral("レイヤ依存"));
         combo.setTextOtherColor(QStringLiteral("他の色"));
@@ -117,7 +106,7 @@ private slots:
     void otherColourMixesANewColourAndKeepsIt()
     {
         test::HostFixture host;
-        putTables(host);
+        host.putTables();
         CSystemColorComboBox combo;
         combo.setTextOtherColor(QStringLiteral("他の色"));
         CountingObserver observer;
@@ -151,7 +140,7 @@ private slots:
     void mixedColoursCanBeKeptInACopyOfTheColourSetting()
     {
         test::HostFixture host;
-        putTables(host);
+        host.putTables();
         CColorSetting copy;
         CSystemColorComboBox combo;
         combo.setColorSetting(&copy);
@@ -165,7 +154,7 @@ private slots:
     void lineTypeEntriesAndTheDrawingsOtherLineTypes()
     {
         test::HostFixture host;
-        putTables(host);
+        host.putTables();
         CMemoryDataBase drawing;
         drawing.add<KsLineType>(0, L"実線");
         drawing.add<KsLineType>(0, L"CENTER2", KsLineType::Pattern,
@@ -210,7 +199,7 @@ private slots:
     void withoutOtherLineTypesTheUserIsTold()
     {
         test::HostFixture host;
-        putTables(host);
+        host.putTables();
         ui::framework::MessageBoxRecorder boxes;
         CSystemLineTypeComboBox combo;
         combo.setTextOtherLineType(QStringLiteral("他の線種"));
@@ -228,7 +217,7 @@ private slots:
     void lineWidthIndicesFollowTheKinds()
     {
         test::HostFixture host;
-        putTables(host);
+        host.putTables();
         SelectLineWidthComboBox combo;
         combo.setLWidthByLayer(QStringLiteral("レイヤ依存"));
         combo.init();
@@ -261,7 +250,7 @@ private slots:
     void theFixedWidthsAreTheOpenDrawings()
     {
         test::HostFixture host;
-        putTables(host);
+        host.putTables();
         CMemoryDataBase drawing;
         drawing.setLineWidthOfKind(KsLineWidth::Thin, KsLineWidth(0.25));
         host.config().setCurrentDataBase(&drawing);

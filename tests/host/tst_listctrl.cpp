@@ -22,10 +22,8 @@ struct Recorder : kesto::IObserver {
     std::vector<Entry> entries;
     void update(kesto::Subject*, int event, void* data) override
     {
-        SListCellEvent cell;
-        if (event == LIST_EVENT_CELL_CHANGED && data)
-            cell = *static_cast<SListCellEvent*>(data);
-        entries.push_back({event, cell});
+        const SListCellEvent* cell = cellChangeOf(event, data);
+        entries.push_back({event, cell ? *cell : SListCellEvent()});
     }
     std::vector<SListCellEvent> cellChanges() const
     {
@@ -48,10 +46,7 @@ void addThreeColumns(CKsListCtrl& list)
 
 QStringList column0(const CKsListCtrl& list)
 {
-    QStringList texts;
-    for (int r = 0; r < list.getRowCount(); ++r)
-        texts << list.getCellText(r, 0);
-    return texts;
+    return kesto::test::columnTexts(list, 0);
 }
 
 } // namespace
@@ -84,6 +79,14 @@ private slots:
         QVERIFY(list.removeRow(1));
         QCOMPARE(column0(list), QStringList({"B", "A"}));
         QCOMPARE(list.getCellText(5, 0), QString());
+        // The row taking the removed one's place is selected, or the new last one.
+        list.insertRow(1, SListRow({QStringLiteral("C")}));
+        QVERIFY(list.removeRowAndSelectNext(0));
+        QCOMPARE(list.getSelectedRow(), 0);
+        QVERIFY(list.removeRowAndSelectNext(1));
+        QCOMPARE(column0(list), QStringList({"C"}));
+        QCOMPARE(list.getSelectedRow(), 0);
+        QVERIFY(!list.removeRowAndSelectNext(1));
         list.removeAllRows();
         QCOMPARE(list.getRowCount(), 0);
     }

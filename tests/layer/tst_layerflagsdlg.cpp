@@ -20,6 +20,7 @@ using test::click;
 using test::columnTexts;
 using test::CountingView;
 using test::LayerDrawing;
+using enum test::LayerDrawing::Row;
 using test::listOf;
 using ui::config::CEditCrossSectionLayersDlg;
 using ui::config::CEditViewPortLayersDlg;
@@ -28,7 +29,6 @@ using ui::control::CKsListCtrl;
 namespace {
 
 enum { On = 1039, Off = 1040, Ignore = 1043, Keep = 1044, Explain = 13407 };
-enum Row { Center, Structure, OldGround, Spare, Dimension };
 
 QString buttonText(CKsDialog& d, int id)
 {

@@ -26,7 +26,7 @@ namespace {
 CSystemScaleSetting twoScales()
 {
     CSystemScaleSetting setting;
-    setting.setSystemScales({{L"1/100", 1, 100}, {L"詳細 1/2.5", 1, 2.5}});
+    setting.setSystemScales({{L"1/100", 1, 100}, {L"詳細 1.5/2.5", 1.5, 2.5}});
     return setting;
 }
 

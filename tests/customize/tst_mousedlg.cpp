@@ -33,41 +33,15 @@ namespace mouse = ui::config::mouse;
 
 namespace {
 
-enum {
-    ViewTab = 8041,
-    ButtonTab = 8042,
-    Reset = 7704,
-    Help = 24000,
-    CommandList = 8016,
-    MenuList = 8020,
-    Add = 7501,
-    Insert = 7698,
-    Delete = 7502,
-    Up = 7401,
-    Down = 7503,
-    Separator = 8031,
-    ShowMenu = 8043,
-    Recent = 8044,
-    RadioFirst = 8045,
-    RadioSecond = 8046,
-    RadioDisabled = 13495,
-    LeftUp = 8049,
-    LeftDown = 8050,
-    RightUp = 8051,
-    RightDown = 8052,
-    SamePoint = 8079,
-    WheelCommands = 8047,
-    WheelRotate = 8053,
-    WheelDrag = 8054,
-    WheelClick = 8055,
-    CtrlRotate = 8056,
-    CtrlDrag = 8057,
-    CtrlClick = 8058,
-    ShiftRotate = 8059,
-    ZoomRate = 8060,
-    WheelUp = 8061,
-    WheelDown = 8062,
-};
+// The dialog's controls, then those of the right button, both buttons and wheel pages.
+constexpr int ViewTab = 8041, ButtonTab = 8042, Reset = 7704, Help = 24000;
+constexpr int CommandList = 8016, MenuList = 8020, ShowMenu = 8043, Recent = 8044, Separator = 8031;
+constexpr int Add = 7501, Insert = 7698, Delete = 7502, Up = 7401, Down = 7503;
+constexpr int RadioFirst = 8045, RadioSecond = 8046, RadioDisabled = 13495;
+constexpr int LeftUp = 8049, LeftDown = 8050, RightUp = 8051, RightDown = 8052, SamePoint = 8079;
+constexpr int WheelCommands = 8047, WheelRotate = 8053, WheelDrag = 8054, WheelClick = 8055;
+constexpr int CtrlRotate = 8056, CtrlDrag = 8057, CtrlClick = 8058, ShiftRotate = 8059;
+constexpr int ZoomRate = 8060, WheelUp = 8061, WheelDown = 8062;
 
 const utility::CCommandTable& table()
 {

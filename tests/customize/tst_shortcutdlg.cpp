@@ -23,17 +23,8 @@ using ui::setting::CShortCutSetting;
 
 namespace {
 
-enum {
-    Tree = 8001,
-    Edit = 8002,
-    CurrentKeys = 8003,
-    AllKeys = 8004,
-    Owner = 13017,
-    Assign = 7501,
-    Delete = 7502,
-    Reset = 7704,
-    Help = 7500
-};
+constexpr int Tree = 8001, Edit = 8002, CurrentKeys = 8003, AllKeys = 8004, Owner = 13017;
+constexpr int Assign = 7501, Delete = 7502, Reset = 7704, Help = 7500;
 enum { Save = 10, SaveAs = 11, Open = 12, Line = 20, Circle = 21, Erase = 30 };
 const std::uint16_t kCtrl = 9;
 

@@ -27,21 +27,10 @@ using ui::setting::SLineWidth;
 
 namespace {
 
-enum {
-    Tab = 7071,
-    Add = 7501,
-    Insert = 7698,
-    Delete = 7502,
-    Up = 7401,
-    Down = 7503,
-    Reset = 7704,
-    Register = 13000,
-    Note = 7700,
-    Thin = 7705,
-    Bold = 7706,
-    ExtraBold = 7707,
-    Help = 7500
-};
+constexpr int Tab = 7071, Add = 7501, Insert = 7698, Delete = 7502, Up = 7401, Down = 7503,
+              Reset = 7704;
+constexpr int Register = 13000, Note = 7700, Thin = 7705, Bold = 7706, ExtraBold = 7707,
+              Help = 7500;
 
 // Fixed 0.13 and 0.18 (thin), then the office's 0.3 (bold) and 0.6 (extra bold).
 CLineWidthSetting fourWidths()

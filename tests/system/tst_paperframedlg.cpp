@@ -29,20 +29,9 @@ using ui::setting::SPaperFrame;
 
 namespace {
 
-enum {
-    Add = 7501,
-    Delete = 7502,
-    Reset = 7699,
-    DrawColor = 7683,
-    DrawWidth = 7685,
-    InnerColor = 7472,
-    InnerWidth = 7474,
-    CutColor = 7690,
-    CutLineType = 7692,
-    Picture = 7526,
-    InitName = 7697,
-    Help = 7500
-};
+constexpr int Add = 7501, Delete = 7502, Reset = 7699, Picture = 7526, InitName = 7697, Help = 7500;
+constexpr int DrawColor = 7683, DrawWidth = 7685, InnerColor = 7472, InnerWidth = 7474,
+              CutColor = 7690, CutLineType = 7692;
 
 // Two frames, A1 and A3; new drawings start with A1.
 CSystemPaperFrameSetting twoFrames()

@@ -25,15 +25,8 @@ using ui::setting::CSystemScaleSetting;
 
 namespace {
 
-enum {
-    Tab = 7071,
-    Add = 7501,
-    Insert = 7698,
-    Delete = 7502,
-    Reset = 7704,
-    Register = 13000,
-    Help = 7500
-};
+constexpr int Tab = 7071, Add = 7501, Insert = 7698, Delete = 7502, Reset = 7704, Register = 13000,
+              Help = 7500;
 
 CSystemScaleSetting scales(std::initializer_list<std::pair<double, double>> values)
 {

@@ -5,15 +5,12 @@
 
 #include "CommandActions.h"
 #include "Screenshots.h"
-#include "Session.h"
 #include "WorkbenchWindow.h"
 
 #include "command/CommandTable.h"
-#include "command/CommandTree.h"
 #include "core/Application.h"
 #include "framework/ModalHook.h"
 #include "setting/MouseSetting.h"
-#include "setting/ShortCutSetting.h"
 
 #include <QAction>
 #include <QComboBox>

@@ -8,9 +8,7 @@
 #include "db/MemoryDataBase.h"
 #include "framework/ColorChooser.h"
 #include "framework/MessageBox.h"
-#include "setting/LineWidthSetting.h"
 #include "setting/SystemColorSetting.h"
-#include "setting/SystemLineTypeSetting.h"
 
 #include <QImage>
 #include <QTest>

@@ -6,7 +6,6 @@
 #include "db/MemoryDataBase.h"
 #include "framework/MessageBox.h"
 #include "framework/ModalHook.h"
-#include "setting/SystemColorSetting.h"
 
 #include <QComboBox>
 #include <QTabBar>

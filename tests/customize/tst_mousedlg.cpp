@@ -519,7 +519,7 @@ private slots:
         Host host;
         CMouseSetting setting;
         setting.setMouseSetting(CMouseSetting::k3DView, full3D());
-        ScopedModalDrivers drivers([](CKsDialog& d) { test::pressOk(d); });
+        ScopedModalDrivers drivers(test::pressOk);
         QVERIFY(host.run(setting));
         QVERIFY(!setting.getMouseSetting(L"2DView"));
         QCOMPARE(setting.viewCount(), std::size_t(1));

@@ -68,6 +68,7 @@ void doubleClick(QWidget* widget, const QPoint& at);
 
 // A file of the test data (tests/data, or KS_DATA_DIR).
 QString dataFile(const QString& relative);
+// A whole file read (empty when it cannot be) or written (false when it cannot be).
 QByteArray readFile(const QString& path);
 bool writeFile(const QString& path, const QByteArray& bytes);
 

@@ -76,7 +76,7 @@ private slots:
         test::HostFixture host;
         CSystemPaperSizeSetting setting = threeSizes();
         ScopedModalDrivers drivers;
-        drivers.add([](CKsDialog& d) { QVERIFY(click(d, IDOK)); });
+        drivers.add(test::pressOk);
         drivers.add([](CKsDialog& d) {
             // Typed back to what it was: still no change.
             listOf(d).commitCellText(0, 1, QStringLiteral("８４１"));

@@ -1,17 +1,16 @@
-// The workbench runs its commands by the keys the user set in "ショートカットキーの設定".
+// The workbench runs its commands by the keys the user set in "ショートカットキーの設定", and
+// renders the customisation and table dialogs.
+#include "WorkbenchFixture.h"
 #include "support/TestSupport.h"
 
 #include "CommandActions.h"
 #include "Screenshots.h"
-#include "Session.h"
 #include "WorkbenchWindow.h"
 
 #include "command/CommandTable.h"
-#include "command/CommandTree.h"
 #include "core/Application.h"
 #include "framework/ModalHook.h"
 #include "setting/MouseSetting.h"
-#include "setting/ShortCutSetting.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -33,24 +32,21 @@ using ui::framework::ScopedModalDrivers;
 
 namespace {
 
-struct Workbench {
-    std::shared_ptr<core::CSystemConfig> config = std::make_shared<core::CSystemConfig>();
-    Session session;
+using test::CommandTableLoaded;
+
+// The workbench with its window shown and active.
+struct Workbench : test::Workbench {
     std::unique_ptr<WorkbenchWindow> window;
     bool active = false;
 
     explicit Workbench(const QString& folder)
-        : session(allTopics(), config, SettingsStore(folder))
+        : test::Workbench(folder)
+        , window(std::make_unique<WorkbenchWindow>(session))
     {
-        config->setSettingFolder(folder.toStdWString());
-        core::Application::getInstance()->setSystemConfig(config);
-        session.load();
-        window = std::make_unique<WorkbenchWindow>(session);
         window->show();
         window->activateWindow();
         active = QTest::qWaitForWindowActive(window.get());
     }
-    ~Workbench() { core::Application::getInstance()->setSystemConfig(nullptr); }
 
     QWidget* focusTarget() const { return window->findChild<QTreeWidget*>(); }
     const Topic& shortCutTopic() const
@@ -58,18 +54,6 @@ struct Workbench {
         return *session.findTopic(QStringLiteral("shortcut-keys"));
     }
     QString status() const { return window->statusBar()->currentMessage(); }
-};
-
-struct CommandTableLoaded {
-    CommandTableLoaded()
-    {
-        QString error;
-        loaded = loadCommandTable(commandTableFile(), &error);
-        if (!loaded)
-            qWarning("%s", qPrintable(error));
-    }
-    ~CommandTableLoaded() { core::Application::getInstance()->setCommandTable(nullptr); }
-    bool loaded = false;
 };
 
 // In the shortcut dialog: the command of the given name gets the key.
@@ -211,21 +195,25 @@ private slots:
         QCOMPARE(mouse->getMouseSetting(L"2DView")->wheelRotate, 2);
     }
 
-    void theCustomisationDialogsAreRendered()
+    void theDialogsAreRenderedWithoutChangingSettingsOrDrawing()
     {
         test::HostFixture host;
         CommandTableLoaded table;
         Workbench bench(host.folder());
         QString error;
+        QVERIFY(bench.session.openDrawing(test::sampleDrawing(), &error));
         const QString dir = host.path(QStringLiteral("shots"));
         const QStringList files = renderTopicScreenshots(bench.session, dir, &error);
-        for (const char* name : {"shortcut-keys", "shortcut-keys-capture", "mouse",
-                                 "mouse-both-buttons", "mouse-wheel"}) {
+        for (const char* name :
+             {"shortcut-keys", "shortcut-keys-capture", "mouse", "mouse-both-buttons",
+              "mouse-wheel", "system-linewidth", "system-linewidth-drawing", "system-papersize",
+              "system-paperframe", "system-paperframe-selected"}) {
             const QString file = QDir(dir).filePath(QString::fromLatin1(name) + ".png");
             QVERIFY2(files.contains(file), name);
             QVERIFY(QImage(file).width() > 400);
         }
         QVERIFY(!QFile::exists(host.path(QStringLiteral("ShortCutSetting.xml"))));
+        QVERIFY(bench.session.drawing()->getChangeRecord().empty());
     }
 
     void cancelKeepsTheKeysAsTheyWere()

@@ -14,7 +14,6 @@
 #include "types/KsLayer.h"
 #include "types/KsLineType.h"
 
-#include <QFile>
 #include <QTest>
 
 #include <set>
@@ -27,12 +26,6 @@ namespace {
 QString drawing(const QString& name)
 {
     return test::dataFile(QStringLiteral("dxf/") + name);
-}
-
-QByteArray readAll(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 const KsLayer* layerNamed(const CMemoryDataBase& db, const QString& name)
@@ -81,6 +74,17 @@ QByteArray pairs(std::initializer_list<std::pair<int, QByteArray>> list)
     QByteArray out;
     for (const auto& [code, value] : list)
         out += QByteArray::number(code) + '\n' + value + '\n';
+    return out;
+}
+
+// Group codes and values written as "code=value code=value ..." (values without blanks).
+QByteArray groups(const QByteArray& text)
+{
+    QByteArray out;
+    for (const QByteArray& group : text.simplified().split(' ')) {
+        const int equals = group.indexOf('=');
+        out += group.left(equals) + '\n' + group.mid(equals + 1) + '\n';
+    }
     return out;
 }
 
@@ -283,21 +287,11 @@ private slots:
 
     void layerDescriptionsAndTheHeadersCurrentLayerAndDefaultWeight()
     {
-        const QByteArray text = pairs({{0, "SECTION"},    {2, "HEADER"},
-                                       {9, "$ACADVER"},   {1, "AC1021"},
-                                       {9, "$CLAYER"},    {8, "genkyou"},
-                                       {9, "$LWDEFAULT"}, {370, "35"},
-                                       {0, "ENDSEC"},     {0, "SECTION"},
-                                       {2, "TABLES"},     {0, "TABLE"},
-                                       {2, "LAYER"},      {0, "LAYER"},
-                                       {2, "GENKYOU"},    {70, "0"},
-                                       {62, "-8"},        {6, "Continuous"},
-                                       {370, "-3"},       {1001, "AcAecLayerStandard"},
-                                       {1000, ""},        {1000, "現況の地盤"},
-                                       {0, "LAYER"},      {2, "0"},
-                                       {70, "0"},         {62, "7"},
-                                       {6, "Continuous"}, {0, "ENDTAB"},
-                                       {0, "ENDSEC"},     {0, "EOF"}});
+        const QByteArray text =
+            groups("0=SECTION 2=HEADER 9=$ACADVER 1=AC1021 9=$CLAYER 8=genkyou 9=$LWDEFAULT 370=35 "
+                   "0=ENDSEC 0=SECTION 2=TABLES 0=TABLE 2=LAYER 0=LAYER 2=GENKYOU 70=0 62=-8 "
+                   "6=Continuous 370=-3 1001=AcAecLayerStandard 1000= 1000=現況の地盤 0=LAYER 2=0 "
+                   "70=0 62=7 6=Continuous 0=ENDTAB 0=ENDSEC 0=EOF");
         QString error;
         const auto db = readText(text, &error);
         QVERIFY2(db, qPrintable(error));
@@ -328,31 +322,13 @@ private slots:
         QCOMPARE(viewPortsOf(*flange)[1]->getLayer(),
                  layerNamed(*flange, QStringLiteral("viewports")));
 
-        const QByteArray layers = pairs({{0, "SECTION"},
-                                         {2, "TABLES"},
-                                         {0, "TABLE"},
-                                         {2, "LAYER"},
-                                         {0, "LAYER"},
-                                         {5, "1A"},
-                                         {2, "ROAD"},
-                                         {70, "0"},
-                                         {62, "1"},
-                                         {6, "CONTINUOUS"},
-                                         {0, "LAYER"},
-                                         {5, "1b"},
-                                         {2, "\\U+65E7\\U+5730\\U+5F62"},
-                                         {70, "0"},
-                                         {62, "2"},
-                                         {6, "CONTINUOUS"},
-                                         {0, "ENDTAB"},
-                                         {0, "ENDSEC"},
-                                         {0, "SECTION"},
-                                         {2, "ENTITIES"}});
+        const QByteArray layers = groups(
+            "0=SECTION 2=TABLES 0=TABLE 2=LAYER 0=LAYER 5=1A 2=ROAD 70=0 62=1 6=CONTINUOUS 0=LAYER "
+            "5=1b 2=\\U+65E7\\U+5730\\U+5F62 70=0 62=2 6=CONTINUOUS 0=ENDTAB 0=ENDSEC "
+            "0=SECTION 2=ENTITIES");
         const QByteArray viewports =
-            pairs({{0, "VIEWPORT"}, {5, "40"},       {8, "ROAD"},    {69, "1"},     {331, "1A"},
-                   {0, "VIEWPORT"}, {5, "41"},       {8, "ROAD"},    {69, "2"},     {331, "1B"},
-                   {331, "FF"},     {0, "VIEWPORT"}, {5, "42"},      {8, "ROAD"},   {69, "3"},
-                   {1001, "ACAD"},  {1000, "MVIEW"}, {1003, "ROAD"}, {0, "ENDSEC"}, {0, "EOF"}});
+            groups("0=VIEWPORT 5=40 8=ROAD 69=1 331=1A 0=VIEWPORT 5=41 8=ROAD 69=2 331=1B 331=FF "
+                   "0=VIEWPORT 5=42 8=ROAD 69=3 1001=ACAD 1000=MVIEW 1003=ROAD 0=ENDSEC 0=EOF");
         const auto db = readText(layers + viewports, &error);
         QVERIFY2(db, qPrintable(error));
         const auto found = viewPortsOf(*db);
@@ -414,7 +390,7 @@ private slots:
 
     void aTruncatedDrawingIsRefusedWhereverItEnds()
     {
-        const QByteArray whole = readAll(drawing(QStringLiteral("qcad_flange_r2013.dxf")));
+        const QByteArray whole = test::readFile(drawing(QStringLiteral("qcad_flange_r2013.dxf")));
         QVERIFY(whole.size() > 100000);
         for (int part = 1; part < 40; ++part) {
             QString error;
@@ -427,7 +403,8 @@ private slots:
 
     void damagedDrawingsOpenOrAreRefusedButNeverCrash()
     {
-        const QByteArray whole = readAll(drawing(QStringLiteral("libredwg_example_r12.dxf")));
+        const QByteArray whole =
+            test::readFile(drawing(QStringLiteral("libredwg_example_r12.dxf")));
         quint32 seed = 20240601;
         auto next = [&seed] { return seed = seed * 1664525u + 1013904223u; };
         static const char noise[] = "0123456789-\n \xff";
@@ -522,10 +499,8 @@ private slots:
         QVERIFY(error.contains(QStringLiteral("none.dxf")));
         test::HostFixture host;
         const QString garbage = host.path(QStringLiteral("garbage.dxf"));
-        QFile file(garbage);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(QByteArray::fromHex("00ff10ee") + QByteArray(3000, '\x81'));
-        file.close();
+        QVERIFY(
+            test::writeFile(garbage, QByteArray::fromHex("00ff10ee") + QByteArray(3000, '\x81')));
         QVERIFY(!openDrawing(garbage, &error));
         QVERIFY2(error.startsWith(garbage + QStringLiteral(": line 1: group code")),
                  qPrintable(error));

@@ -1,5 +1,6 @@
 // The workbench: settings kept in its folder across restarts, unreadable files set aside,
 // drawings opened from files, and dialogs rendered to PNG without a display.
+#include "WorkbenchFixture.h"
 #include "support/TestSupport.h"
 
 #include "DrawingFile.h"
@@ -30,25 +31,10 @@ using ui::setting::CSystemScaleSetting;
 
 namespace {
 
-QString sampleDrawing()
-{
-    return QStringLiteral(KS_SOURCE_DIR "/app/samples/civil-sample.xml");
-}
+using test::sampleDrawing;
 
-struct Workbench {
-    std::shared_ptr<core::CSystemConfig> config = std::make_shared<core::CSystemConfig>();
-    Session session;
-    std::vector<SettingsStore::Problem> problems;
-
-    explicit Workbench(const QString& folder)
-        : session(allTopics(), config, SettingsStore(folder))
-    {
-        config->setSettingFolder(folder.toStdWString());
-        core::Application::getInstance()->setSystemConfig(config);
-        problems = session.load();
-    }
-    ~Workbench() { core::Application::getInstance()->setSystemConfig(nullptr); }
-
+struct Workbench : test::Workbench {
+    using test::Workbench::Workbench;
     const Topic& scaleTopic() const { return *session.findTopic(QStringLiteral("system-scale")); }
     CSystemScaleSetting& scales() const { return *config->getSetting<CSystemScaleSetting>(); }
 };
@@ -82,24 +68,11 @@ void hideFirstRows(CKsDialog& d)
     QVERIFY(test::click(d, 1));
 }
 
-QByteArray readAll(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void writeAll(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), bytes.size());
-}
-
 // The names of the dlgdata elements under the root of a dialog data file.
 QStringList dialogDataNames(const QString& path)
 {
     QDomDocument doc;
-    if (!doc.setContent(readAll(path)))
+    if (!doc.setContent(test::readFile(path)))
         return {QStringLiteral("unreadable")};
     QStringList names;
     for (QDomElement e = doc.documentElement().firstChildElement(); !e.isNull();
@@ -143,18 +116,14 @@ private slots:
         test::HostFixture host;
         const QString file = host.path(QStringLiteral("SystemScaleSetting.xml"));
         const QByteArray broken("<SystemScaleSetting><Scale numerator=\"1\" denomin");
-        {
-            QFile out(file);
-            QVERIFY(out.open(QIODevice::WriteOnly));
-            out.write(broken);
-        }
+        QVERIFY(test::writeFile(file, broken));
         Workbench bench(host.folder());
         QCOMPARE(bench.problems.size(), std::size_t(1));
         const SettingsStore::Problem& problem = bench.problems.front();
         QCOMPARE(problem.file, file);
         QVERIFY(!problem.reason.isEmpty());
         QVERIFY(problem.backup.startsWith(file + QStringLiteral(".broken-")));
-        QCOMPARE(readAll(problem.backup), broken);
+        QCOMPARE(test::readFile(problem.backup), broken);
         QVERIFY(!QFile::exists(file));
         QVERIFY(bench.scales().isSame(CSystemScaleSetting::makeDefault()));
 
@@ -162,7 +131,7 @@ private slots:
         bool changed = false;
         QString error;
         QVERIFY(bench.session.openTopic(bench.scaleTopic(), &changed, &error));
-        QCOMPARE(readAll(problem.backup), broken); // the backup is never written over
+        QCOMPARE(test::readFile(problem.backup), broken); // the backup is never written over
         QVERIFY(QFile::exists(file));
     }
 
@@ -298,11 +267,11 @@ private slots:
         const QByteArray withOther =
             "<?xml version=\"1.0\"?>\n<DialogData>\n  <dlgdata name=\"MouseDlg\">"
             "<Page>3</Page></dlgdata>\n</DialogData>\n";
-        writeAll(file, withOther);
+        QVERIFY(test::writeFile(file, withOther));
         {
             Workbench restarted(host.folder());
             QVERIFY(restarted.problems.empty());
-            QVERIFY(readAll(file) == withOther);
+            QVERIFY(test::readFile(file) == withOther);
             ui::config::SDrawingHatch hatch;
             hatch.initByDefault();
             hatch.hatchType = 3;
@@ -311,9 +280,9 @@ private slots:
         const QStringList expected = {QStringLiteral("dlgdata=MouseDlg"),
                                       QStringLiteral("dlgdata=DrawingHatch")};
         QCOMPARE(dialogDataNames(file), expected);
-        const QByteArray saved = readAll(file);
+        const QByteArray saved = test::readFile(file);
         Workbench again(host.folder());
-        QVERIFY(readAll(file) == saved);
+        QVERIFY(test::readFile(file) == saved);
         ui::config::SDrawingHatch loaded;
         QVERIFY(loaded.loadDialogData());
         QCOMPARE(loaded.hatchType, 3);
@@ -324,19 +293,19 @@ private slots:
         test::HostFixture host;
         const QString file = host.path(QStringLiteral("dialogdata.xml"));
         const QByteArray broken("<DialogData><dlgdata name=\"DrawingHatch\"><Hatch");
-        writeAll(file, broken);
+        QVERIFY(test::writeFile(file, broken));
         Workbench bench(host.folder());
         QCOMPARE(bench.problems.size(), std::size_t(1));
         const SettingsStore::Problem& problem = bench.problems.front();
         QCOMPARE(problem.file, file);
         QVERIFY(!problem.reason.isEmpty());
         QVERIFY(problem.backup.startsWith(file + QStringLiteral(".broken-")));
-        QVERIFY(readAll(problem.backup) == broken);
+        QVERIFY(test::readFile(problem.backup) == broken);
         QVERIFY(dialogDataNames(file).isEmpty());
         ui::config::SDrawingHatch hatch;
         hatch.initByDefault();
         QVERIFY(hatch.saveDialogData());
-        QVERIFY(readAll(problem.backup) == broken);
+        QVERIFY(test::readFile(problem.backup) == broken);
     }
 
     void everyDialogIsRenderedWithItsTitleBar()

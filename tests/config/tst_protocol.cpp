@@ -16,6 +16,8 @@ using namespace kesto::ui::framework;
 using kesto::ui::config::CopyBack;
 using kesto::ui::config::runSettingDialog;
 
+Q_DECLARE_METATYPE(CopyBack)
+
 namespace {
 
 constexpr int kTemplate = 99101;
@@ -93,54 +95,45 @@ void editThenOk(CKsDialog& d)
     QVERIFY(test::click(d, IDOK));
 }
 
-void editThenCancel(CKsDialog& d)
-{
-    QVERIFY(test::click(d, kEditButton));
-    QVERIFY(test::click(d, IDCANCEL));
-}
-
 } // namespace
 
 class TestProtocol : public QObject {
     Q_OBJECT
 
 private slots:
-    void standardCopiesBackOnOkOnly()
+    void copyBackFollowsTheRule_data()
     {
+        QTest::addColumn<CopyBack>("rule");
+        QTest::addColumn<bool>("edit");
+        QTest::addColumn<bool>("ok");
+        QTest::addColumn<bool>("result");
+        QTest::addColumn<int>("value");
+        QTest::newRow("on OK: OK") << CopyBack::OnOk << true << true << true << 6;
+        QTest::newRow("on OK: cancel") << CopyBack::OnOk << true << false << false << 5;
+        QTest::newRow("always: cancel") << CopyBack::Always << true << false << false << 6;
+        QTest::newRow("always: OK") << CopyBack::Always << true << true << true << 6;
+        QTest::newRow("on change: OK unedited")
+            << CopyBack::OnChange << false << true << false << 5;
+        QTest::newRow("on change: cancel") << CopyBack::OnChange << true << false << false << 5;
+        QTest::newRow("on change: OK") << CopyBack::OnChange << true << true << true << 6;
+    }
+    void copyBackFollowsTheRule()
+    {
+        QFETCH(CopyBack, rule);
+        QFETCH(bool, edit);
+        QFETCH(bool, ok);
         Fixture f;
         TestSetting setting;
         setting.value = 5;
-        QVERIFY(run(setting, CopyBack::OnOk, editThenOk));
-        QCOMPARE(setting.value, 6);
-        QVERIFY(!run(setting, CopyBack::OnOk, editThenCancel));
-        QCOMPARE(setting.value, 6);
+        QTEST(run(setting, rule,
+                  [=](CKsDialog& d) {
+                      if (edit)
+                          QVERIFY(test::click(d, kEditButton));
+                      QVERIFY(test::click(d, ok ? IDOK : IDCANCEL));
+                  }),
+              "result");
+        QTEST(setting.value, "value");
         QCOMPARE(TestDialog::resetValueSeen, 99);
-    }
-
-    void alwaysCopiesBackAfterEveryResult()
-    {
-        Fixture f;
-        TestSetting setting;
-        setting.value = 5;
-        QVERIFY(!run(setting, CopyBack::Always, editThenCancel));
-        QCOMPARE(setting.value, 6);
-        QVERIFY(!run(setting, CopyBack::Always, [](CKsDialog& d) { test::click(d, IDCANCEL); }));
-        QCOMPARE(setting.value, 6);
-        QVERIFY(run(setting, CopyBack::Always, editThenOk));
-        QCOMPARE(setting.value, 7);
-    }
-
-    void onChangeReportsARealChangeOnly()
-    {
-        Fixture f;
-        TestSetting setting;
-        setting.value = 5;
-        QVERIFY(!run(setting, CopyBack::OnChange, [](CKsDialog& d) { test::click(d, IDOK); }));
-        QCOMPARE(setting.value, 5);
-        QVERIFY(!run(setting, CopyBack::OnChange, editThenCancel));
-        QCOMPARE(setting.value, 5);
-        QVERIFY(run(setting, CopyBack::OnChange, editThenOk));
-        QCOMPARE(setting.value, 6);
     }
 
     void libraryResourcesAreCurrentWhileTheDialogRuns()

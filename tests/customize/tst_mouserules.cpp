@@ -6,8 +6,6 @@
 #include "config/LibraryModule.h"
 #include "customize/MouseRules.h"
 
-#include <QDomDocument>
-#include <QFile>
 #include <QTest>
 
 using namespace kesto;
@@ -22,13 +20,6 @@ const std::vector<SCandidate> kCandidates = {
     {L"ID_EDIT_UNDO", QStringLiteral("元に戻す")},
 };
 
-bool writeFile(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly | QIODevice::Truncate)
-           && file.write(bytes) == bytes.size();
-}
-
 } // namespace
 
 class TestMouseRules : public QObject {
@@ -42,7 +33,7 @@ private slots:
     {
         test::HostFixture host;
         const QString path = host.path(QStringLiteral("mouse-commands.xml"));
-        QVERIFY(writeFile(path, R"(<MouseCommands>
+        QVERIFY(test::writeFile(path, R"(<MouseCommands>
             <Commands view="2DView "><Menu><Command id="X"/></Menu></Commands>
             <Commands><Menu><Command id="Y"/></Menu></Commands>
             <Commands view="2DView"><Menu><Command id="A"/></Menu><Action><Command id="B"/></Action></Commands>
@@ -61,9 +52,9 @@ private slots:
 
         QVERIFY(readMouseCommands(host.path(QStringLiteral("none.xml")).toStdWString()).empty());
         QVERIFY(readMouseCommands(L"").empty());
-        QVERIFY(writeFile(path, "<MouseCommands><Commands view=\"2DView\">"));
+        QVERIFY(test::writeFile(path, "<MouseCommands><Commands view=\"2DView\">"));
         QVERIFY(readMouseCommands(path.toStdWString()).empty());
-        QVERIFY(writeFile(path, "<Other><Commands view=\"2DView\"/></Other>"));
+        QVERIFY(test::writeFile(path, "<Other><Commands view=\"2DView\"/></Other>"));
         QVERIFY(readMouseCommands(path.toStdWString()).empty());
     }
 
@@ -113,13 +104,15 @@ private slots:
                  QStringLiteral("文字内容編集 ※"));
         QCOMPARE(commandRowText(L"ID_TOOL_HYPERLINK_SETUP", QStringLiteral("x")),
                  QStringLiteral("ハイパーリンクの設定 ※"));
-        for (const wchar_t* id :
-             {L"ID_TOOL_ELEMENT_STATUS", L"ID_EDIT_PROPERTY_COPY", L"ID_EDIT_PROPERTY_ACTIVE",
-              L"ID_EDIT_MOVE_MOVE", L"ID_EDIT_MOVE_ROTATE", L"ID_EDIT_COPY_COPY", L"ID_EDIT_ERASE",
-              L"ID_EDIT_ZORDER_TOP", L"ID_EDIT_ZORDER_BOTTOM", L"ID_MISC_ACTIVE_ATTRIBUTE",
-              L"ID_MISC_ACTIVE_SCALE", L"ID_EDIT_CUT", L"ID_EDIT_COPY", L"ID_LAYER_VISIBLE",
-              L"ID_LAYER_INVISIBLE_THIS", L"ID_LAYER_INVISIBLE"})
-            QCOMPARE(commandRowText(id, QStringLiteral("名前")), QStringLiteral("名前 ※"));
+        const QString marked = QStringLiteral(
+            "ID_TOOL_ELEMENT_STATUS ID_EDIT_PROPERTY_COPY ID_EDIT_PROPERTY_ACTIVE "
+            "ID_EDIT_MOVE_MOVE "
+            "ID_EDIT_MOVE_ROTATE ID_EDIT_COPY_COPY ID_EDIT_ERASE ID_EDIT_ZORDER_TOP "
+            "ID_EDIT_ZORDER_BOTTOM ID_MISC_ACTIVE_ATTRIBUTE ID_MISC_ACTIVE_SCALE ID_EDIT_CUT "
+            "ID_EDIT_COPY ID_LAYER_VISIBLE ID_LAYER_INVISIBLE_THIS ID_LAYER_INVISIBLE");
+        for (const QString& id : marked.split(u' '))
+            QCOMPARE(commandRowText(id.toStdWString(), QStringLiteral("名前")),
+                     QStringLiteral("名前 ※"));
         QCOMPARE(commandRowText(L"ID_EDIT_PASTE", QStringLiteral("貼り付け")),
                  QStringLiteral("貼り付け"));
 

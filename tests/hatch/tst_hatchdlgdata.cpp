@@ -158,7 +158,6 @@ private slots:
         host.config().setCurrentDataBase(nullptr);
         data.clear();
         QVERIFY(!data.referenceEnabled);
-        QVERIFY(data.innerCheck());
     }
 
     void copiesCarryTheBaseAndEveryField()
@@ -177,8 +176,8 @@ private slots:
         const SHatchSettingDlgData copy(data);
         SHatchSettingDlgData assigned;
         assigned = data;
-        const SHatchSettingDlgData* const copies[] = {&copy, &assigned};
-        for (const SHatchSettingDlgData* c : copies) {
+        for (const SHatchSettingDlgData* c :
+             {&copy, static_cast<const SHatchSettingDlgData*>(&assigned)}) {
             QCOMPARE(c->requestCode, 2);
             QVERIFY(c->referenceEnabled);
             QCOMPARE(c->pickedElement.get(), picked.get());
@@ -258,14 +257,9 @@ private slots:
             const auto& figure = data.drawingHatch.figurePattern;
             QVERIFY(figure.baseFigureName == L"間知石");
             QVERIFY(figure.name == L"石積み"); // the display name is not the element's
-            using P = ui::setting::SFigurePattern;
-            QCOMPARE(figure.placement[P::BaseAngle], 1.0);
-            QCOMPARE(figure.placement[P::Angle1], 2.0);
-            QCOMPARE(figure.placement[P::Length1], 3.0);
-            QCOMPARE(figure.placement[P::Angle2], 4.0);
-            QCOMPARE(figure.placement[P::Length2], 5.0);
-            QCOMPARE(figure.placement[P::FigureWidth], 6.0);
-            QCOMPARE(figure.placement[P::FigureHeight], 7.0);
+            // In the element's order: base angle, angle 1, length 1, angle 2, length 2, size.
+            QVERIFY(figure.placement
+                    == (ui::setting::SFigurePattern::Placement{1.0, 2.0, 3.0, 4.0, 5.0, 6.0, 7.0}));
             QVERIFY(!figure.outerFrame.drawFrame);
             QVERIFY(figure.outerFrame.color == kRed);
             QVERIFY(figure.innerFrame.color == kBlue);

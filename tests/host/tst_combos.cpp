@@ -8,9 +8,7 @@
 #include "db/MemoryDataBase.h"
 #include "framework/ColorChooser.h"
 #include "framework/MessageBox.h"
-#include "setting/LineWidthSetting.h"
 #include "setting/SystemColorSetting.h"
-#include "setting/SystemLineTypeSetting.h"
 
 #include <QImage>
 #include <QTest>
@@ -24,17 +22,6 @@ using ui::control::SelectLineWidthComboBox;
 using ui::framework::ColorChooserHook;
 
 namespace {
-
-// The host's tables as the workbench keeps them.
-void putTables(test::HostFixture& host)
-{
-    host.config().putSetting(
-        std::make_unique<CSystemColorSetting>(CSystemColorSetting::makeDefault()));
-    host.config().putSetting(std::make_unique<CColorSetting>());
-    host.config().putSetting(
-        std::make_unique<CSystemLineTypeSetting>(CSystemLineTypeSetting::makeDefault()));
-    host.config().putSetting(std::make_unique<CLineWidthSetting>(CLineWidthSetting::makeDefault()));
-}
 
 struct CountingObserver : IObserver {
     int count = 0;
@@ -81,7 +68,7 @@ private slots:
     void colourEntriesAreByLayerSystemColoursThenOther()
     {
         test::HostFixture host;
-        putTables(host);
+        host.putTables();
         CSystemColorComboBox combo;
         combo.setTextByLayer(QStringLiteral("レイヤ依存"));
         combo.setTextOtherColor(QStringLiteral("他の色"));
@@ -117,7 +104,7 @@ private slots:
     void otherColourMixesANewColourAndKeepsIt()
     {
         test::HostFixture host;
-        putTables(host);
+        host.putTables();
         CSystemColorComboBox combo;
         combo.setTextOtherColor(QStringLiteral("他の色"));
         CountingObserver observer;
@@ -151,7 +138,7 @@ private slots:
     void mixedColoursCanBeKeptInACopyOfTheColourSetting()
     {
         test::HostFixture host;
-        putTables(host);
+        host.putTables();
         CColorSetting copy;
         CSystemColorComboBox combo;
         combo.setColorSetting(&copy);
@@ -165,7 +152,7 @@ private slots:
     void lineTypeEntriesAndTheDrawingsOtherLineTypes()
     {
         test::HostFixture host;
-        putTables(host);
+        host.putTables();
         CMemoryDataBase drawing;
         drawing.add<KsLineType>(0, L"実線");
         drawing.add<KsLineType>(0, L"CENTER2", KsLineType::Pattern,
@@ -210,7 +197,7 @@ private slots:
     void withoutOtherLineTypesTheUserIsTold()
     {
         test::HostFixture host;
-        putTables(host);
+        host.putTables();
         ui::framework::MessageBoxRecorder boxes;
         CSystemLineTypeComboBox combo;
         combo.setTextOtherLineType(QStringLiteral("他の線種"));
@@ -228,7 +215,7 @@ private slots:
     void lineWidthIndicesFollowTheKinds()
     {
         test::HostFixture host;
-        putTables(host);
+        host.putTables();
         SelectLineWidthComboBox combo;
         combo.setLWidthByLayer(QStringLiteral("レイヤ依存"));
         combo.init();
@@ -261,7 +248,7 @@ private slots:
     void theFixedWidthsAreTheOpenDrawings()
     {
         test::HostFixture host;
-        putTables(host);
+        host.putTables();
         CMemoryDataBase drawing;
         drawing.setLineWidthOfKind(KsLineWidth::Thin, KsLineWidth(0.25));
         host.config().setCurrentDataBase(&drawing);

@@ -7,7 +7,6 @@
 #include "setting/LineEndSetting.h"
 #include "utility/ComboUtility.h"
 
-#include <QFile>
 #include <QTest>
 
 using namespace kesto;
@@ -32,12 +31,6 @@ CDrawCommonSetting redDashed()
     return s;
 }
 
-bool writeAll(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}
-
 } // namespace
 
 class TestDrawSettings : public QObject {
@@ -47,19 +40,15 @@ private slots:
     void commonSettingRoundTripsAndRefusesBrokenFiles()
     {
         test::HostFixture host;
-        const QString path = host.path(QStringLiteral("common.xml"));
-        QVERIFY(redDashed().saveXML(path.toStdWString()));
         CDrawCommonSetting loaded;
-        QVERIFY(loaded.loadXML(path.toStdWString()));
-        QVERIFY(loaded.isSame(redDashed()));
+        QVERIFY(test::roundTrips(host, redDashed(), loaded));
         QVERIFY(!loaded.isSame(CDrawCommonSetting()));
-
-        QVERIFY(writeAll(path, "<DrawCommonSetting><Color mode=\"1\" rgb=\"#ff0000\" type=\"1\"/>"
-                               "<LineType mode=\"3\"/><LineWidth value=\"-1\" kind=\"0\"/>"
-                               "<LineEnds/></DrawCommonSetting>"));
-        QVERIFY(!loaded.loadXML(path.toStdWString()));
-        QVERIFY(writeAll(path, "<DrawCommonSetting><Color mode=\"1\"/></DrawCommonSetting>"));
-        QVERIFY(!loaded.loadXML(path.toStdWString()));
+        QVERIFY(!test::loadsText(host, loaded,
+                                 "<DrawCommonSetting><Color mode=\"1\" rgb=\"#ff0000\" type=\"1\"/>"
+                                 "<LineType mode=\"3\"/><LineWidth value=\"-1\" kind=\"0\"/>"
+                                 "<LineEnds/></DrawCommonSetting>"));
+        QVERIFY(!test::loadsText(host, loaded,
+                                 "<DrawCommonSetting><Color mode=\"1\"/></DrawCommonSetting>"));
         QVERIFY(loaded.isSame(redDashed()));
     }
 
@@ -83,11 +72,7 @@ private slots:
             copy.setLineEnds({{L"矢印", L"ARROW_OPEN", 3, 1, 2, 1}, {L"矢印", L"", 0, 0, 1, 2}}));
 
         test::HostFixture host;
-        const QString path = host.path(QStringLiteral("ends.xml"));
-        QVERIFY(setting.saveXML(path.toStdWString()));
-        CLineEndSetting loaded;
-        QVERIFY(loaded.loadXML(path.toStdWString()));
-        QVERIFY(loaded.isSame(setting));
+        QVERIFY(test::roundTrips(host, setting));
     }
 
     void arrowComboSelectsByPrefixAndExactSelectionByWholeText()

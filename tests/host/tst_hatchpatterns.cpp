@@ -7,7 +7,6 @@
 #include "setting/SystemLineTypeSetting.h"
 #include "utility/Xml.h"
 
-#include <QFile>
 #include <QTest>
 
 #include <set>
@@ -124,10 +123,8 @@ private slots:
         reset.initByDefault();
         QVERIFY(reset.drawFrame && reset.color.isByLayer() && reset.lineTypeName == L"実線");
         QCOMPARE(reset.lineWidthKind, int(KsLineWidth::Thin));
-        QVERIFY(!reset.keepDrawFrame && !reset.keepColor && !reset.keepLineType
-                && !reset.keepLineWidth);
-        QCOMPARE(SSlantPatternLine().spacing, 0.0);
 
+        // Resetting a pattern drops its extra lines and inner frames: it is as built.
         SSlantPattern slant = twoLines();
         slant.initByDefault();
         QVERIFY(slant == SSlantPattern());
@@ -140,7 +137,6 @@ private slots:
         SCoatingPattern coating = fill();
         coating.initByDefault();
         QVERIFY(coating == SCoatingPattern());
-        QVERIFY(!coating.transparent);
         SHoldPattern hold;
         giveFrames(hold);
         hold.initByDefault();
@@ -438,10 +434,7 @@ private slots:
     {
         test::HostFixture host;
         const QString path = host.path(QStringLiteral("ns.xml"));
-        QFile out(path);
-        QVERIFY(out.open(QIODevice::WriteOnly));
-        out.write("<k:root xmlns:k=\"urn:kesto\"><k:item/></k:root>");
-        out.close();
+        QVERIFY(test::writeFile(path, "<k:root xmlns:k=\"urn:kesto\"><k:item/></k:root>"));
         QDomDocument doc;
         QVERIFY(utility::xml::load(doc, path.toStdWString(), true));
         QCOMPARE(doc.documentElement().namespaceURI(), QStringLiteral("urn:kesto"));

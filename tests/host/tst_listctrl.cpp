@@ -14,18 +14,21 @@ using namespace kesto::ui::control;
 
 namespace {
 
+// Records the events of a list, and for each cell change the text the list held for that
+// cell when it told.
 struct Recorder : kesto::IObserver {
     struct Entry {
         int event;
         SListCellEvent cell;
+        QString stored;
     };
     std::vector<Entry> entries;
-    void update(kesto::Subject*, int event, void* data) override
+    void update(kesto::Subject* subject, int event, void* data) override
     {
-        SListCellEvent cell;
-        if (event == LIST_EVENT_CELL_CHANGED && data)
-            cell = *static_cast<SListCellEvent*>(data);
-        entries.push_back({event, cell});
+        const SListCellEvent* cell = cellChangeOf(event, data);
+        const auto* list = dynamic_cast<CKsListCtrl*>(subject);
+        entries.push_back({event, cell ? *cell : SListCellEvent(),
+                           cell && list ? list->getCellText(cell->row, cell->column) : QString()});
     }
     std::vector<SListCellEvent> cellChanges() const
     {
@@ -48,10 +51,7 @@ void addThreeColumns(CKsListCtrl& list)
 
 QStringList column0(const CKsListCtrl& list)
 {
-    QStringList texts;
-    for (int r = 0; r < list.getRowCount(); ++r)
-        texts << list.getCellText(r, 0);
-    return texts;
+    return kesto::test::columnTexts(list, 0);
 }
 
 } // namespace
@@ -84,6 +84,14 @@ private slots:
         QVERIFY(list.removeRow(1));
         QCOMPARE(column0(list), QStringList({"B", "A"}));
         QCOMPARE(list.getCellText(5, 0), QString());
+        // The row taking the removed one's place is selected, or the new last one.
+        list.insertRow(1, SListRow({QStringLiteral("C")}));
+        QVERIFY(list.removeRowAndSelectNext(0));
+        QCOMPARE(list.getSelectedRow(), 0);
+        QVERIFY(list.removeRowAndSelectNext(1));
+        QCOMPARE(column0(list), QStringList({"C"}));
+        QCOMPARE(list.getSelectedRow(), 0);
+        QVERIFY(!list.removeRowAndSelectNext(1));
         list.removeAllRows();
         QCOMPARE(list.getRowCount(), 0);
     }
@@ -111,32 +119,17 @@ private slots:
         list.addRow({QStringLiteral("A"), QStringLiteral("○")});
         Recorder recorder;
         list.attach(&recorder);
-        QString storedWhenNotified;
-        struct Peek : kesto::IObserver {
-            CKsListCtrl* list;
-            QString* seen;
-            void update(kesto::Subject*, int event, void*) override
-            {
-                if (event == LIST_EVENT_CELL_CHANGED)
-                    *seen = list->getCellText(0, 0);
-            }
-        } peek;
-        peek.list = &list;
-        peek.seen = &storedWhenNotified;
-        list.attach(&peek);
-
         QVERIFY(list.commitCellText(0, 0, QStringLiteral("B")));
-        QCOMPARE(storedWhenNotified, QStringLiteral("B"));
         const auto changes = recorder.cellChanges();
         QCOMPARE(changes.size(), std::size_t(1));
         QCOMPARE(changes[0].row, 0);
         QCOMPARE(changes[0].column, 0);
         QCOMPARE(changes[0].text, QStringLiteral("B"));
+        QCOMPARE(recorder.entries.back().stored, QStringLiteral("B"));
 
         QVERIFY(!list.commitCellText(0, 0, QStringLiteral("B"))); // unchanged: no event
         list.setCellText(0, 0, QStringLiteral("C"));              // by the owner: no event
         QCOMPARE(recorder.cellChanges().size(), std::size_t(1));
-        list.detach(&peek);
         list.detach(&recorder);
     }
 

@@ -7,7 +7,6 @@
 #include "setting/MouseSetting.h"
 
 #include <QDomDocument>
-#include <QFile>
 #include <QTest>
 
 using namespace kesto;
@@ -159,11 +158,8 @@ private slots:
         test::HostFixture host;
         CMouseSetting setting = CMouseSetting::makeDefault();
         setting.setMouseSetting(CMouseSetting::k3DView, unusualView());
-        const std::wstring path = host.path(QStringLiteral("mouse.xml")).toStdWString();
-        QVERIFY(setting.saveXML(path));
         CMouseSetting loaded;
-        QVERIFY(loaded.loadXML(path));
-        QVERIFY(loaded.isSame(setting));
+        QVERIFY(test::roundTrips(host, setting, loaded));
         QVERIFY(*loaded.getMouseSetting(L"3DView") == unusualView());
         QCOMPARE(loaded.getMouseSetting(L"3DView")->stepZoomRate, 0.123456789012345);
         QVERIFY(loaded.getMouseSetting(L"2DView")->shortcutMenu
@@ -184,22 +180,15 @@ private slots:
             R"(<MouseSetting><View name="2DView"><ShortcutMenu><Item id=""/></ShortcutMenu></View></MouseSetting>)",
             R"(<MouseSetting><View name="2DView">)",
         };
-        const std::wstring path = host.path(QStringLiteral("mouse.xml")).toStdWString();
         CMouseSetting setting = CMouseSetting::makeDefault();
         for (const char* text : broken) {
-            QFile file(QString::fromStdWString(path));
-            QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-            file.write(text);
-            file.close();
-            QVERIFY2(!setting.loadXML(path), text);
+            QVERIFY2(!test::loadsText(host, setting, text), text);
             QVERIFY(setting.isSame(CMouseSetting::makeDefault()));
         }
         // Fields left out keep their defaults.
-        QFile file(QString::fromStdWString(path));
-        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(R"(<MouseSetting><View name="2DView" wheelRotate="2"/></MouseSetting>)");
-        file.close();
-        QVERIFY(setting.loadXML(path));
+        QVERIFY(test::loadsText(
+            host, setting,
+            R"(<MouseSetting><View name="2DView" wheelRotate="2"/></MouseSetting>)"));
         QCOMPARE(setting.viewCount(), std::size_t(1));
         SMouseSetting expected;
         expected.wheelRotate = 2;

@@ -8,7 +8,6 @@
 #include "utility/VirtualKey.h"
 
 #include <QDomDocument>
-#include <QFile>
 #include <QKeyEvent>
 #include <QSet>
 #include <QTest>
@@ -32,15 +31,12 @@ QString shippedTable()
 bool loadTableText(CCommandTable& table, const QString& text, QString* error = nullptr)
 {
     QDomDocument doc;
-    if (!doc.setContent(text))
-        return false;
-    return table.loadXMLNode(doc.documentElement(), error);
+    return doc.setContent(text) && table.loadXMLNode(doc.documentElement(), error);
 }
 
 CCommandTable smallTable()
 {
-    CCommandTable table;
-    const bool ok = loadTableText(table, QStringLiteral(R"(<CommandTable>
+    return test::commandTable(QStringLiteral(R"(<CommandTable>
         <Group name="ファイル">
           <Command number="10" id="ID_FILE_SAVE" name="上書き保存" keys="Ctrl+S"/>
           <Command number="11" id="ID_FILE_MRU1" name="最近のファイル" keyBindable="0"/>
@@ -52,8 +48,6 @@ CCommandTable smallTable()
         <Group name="朱書き">
           <Command number="30" id="ID_RED_CLOUD" name="雲マーク" frames="red" keys="F12"/>
         </Group></CommandTable>)"));
-    Q_ASSERT(ok);
-    return table;
 }
 
 QStringList keyTexts(const CShortCutSetting& setting)
@@ -239,10 +233,8 @@ private slots:
         CShortCutSetting setting;
         setting.addItem(kCtrl | FSHIFT, 'S', 10, L"ID_FILE_SAVE_AS", L"名前を付けて保存");
         setting.addItem(FVIRTKEY | FALT, 0x2E, 11, L"ID_EDIT_ERASE", L"削除");
-        const std::wstring path = host.path(QStringLiteral("keys.xml")).toStdWString();
-        QVERIFY(setting.saveXML(path));
         CShortCutSetting loaded;
-        QVERIFY(loaded.loadXML(path));
+        QVERIFY(test::roundTrips(host, setting, loaded));
         QCOMPARE(loaded.items(), setting.items());
 
         const char* broken[] = {
@@ -256,11 +248,7 @@ private slots:
             R"(<ShortCutSetting><ShortCut flags="9" key="83" command="1"/>)",
         };
         for (const char* text : broken) {
-            QFile file(QString::fromStdWString(path));
-            QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-            file.write(text);
-            file.close();
-            QVERIFY2(!loaded.loadXML(path), text);
+            QVERIFY2(!test::loadsText(host, loaded, text), text);
             QCOMPARE(loaded.items(), setting.items());
         }
     }
@@ -273,27 +261,16 @@ private slots:
         QVERIFY(table.size() >= 300);
         QVERIFY(table.groups().size() >= 10);
         // The commands the mouse dialog names.
-        for (const wchar_t* id : {L"ID_VIEW_SELECT_RANGE_DISPLAY",
-                                  L"ID_VIEW_ROTATE_ELEMENT_HORIZONTALLY",
-                                  L"ID_EDIT_TEXT_CONTENTS",
-                                  L"ID_TOOL_HYPERLINK_SETUP",
-                                  L"ID_TOOL_ELEMENT_STATUS",
-                                  L"ID_EDIT_PROPERTY_COPY",
-                                  L"ID_EDIT_PROPERTY_ACTIVE",
-                                  L"ID_EDIT_MOVE_MOVE",
-                                  L"ID_EDIT_MOVE_ROTATE",
-                                  L"ID_EDIT_COPY_COPY",
-                                  L"ID_EDIT_ERASE",
-                                  L"ID_EDIT_ZORDER_TOP",
-                                  L"ID_EDIT_ZORDER_BOTTOM",
-                                  L"ID_MISC_ACTIVE_ATTRIBUTE",
-                                  L"ID_MISC_ACTIVE_SCALE",
-                                  L"ID_EDIT_CUT",
-                                  L"ID_EDIT_COPY",
-                                  L"ID_LAYER_VISIBLE",
-                                  L"ID_LAYER_INVISIBLE_THIS",
-                                  L"ID_LAYER_INVISIBLE"})
-            QVERIFY2(table.findCommand(std::wstring(id)), qPrintable(QString::fromWCharArray(id)));
+        const QString named = QStringLiteral(
+            "ID_VIEW_SELECT_RANGE_DISPLAY ID_VIEW_ROTATE_ELEMENT_HORIZONTALLY "
+            "ID_EDIT_TEXT_CONTENTS "
+            "ID_TOOL_HYPERLINK_SETUP ID_TOOL_ELEMENT_STATUS ID_EDIT_PROPERTY_COPY "
+            "ID_EDIT_PROPERTY_ACTIVE ID_EDIT_MOVE_MOVE ID_EDIT_MOVE_ROTATE ID_EDIT_COPY_COPY "
+            "ID_EDIT_ERASE ID_EDIT_ZORDER_TOP ID_EDIT_ZORDER_BOTTOM ID_MISC_ACTIVE_ATTRIBUTE "
+            "ID_MISC_ACTIVE_SCALE ID_EDIT_CUT ID_EDIT_COPY ID_LAYER_VISIBLE "
+            "ID_LAYER_INVISIBLE_THIS ID_LAYER_INVISIBLE");
+        for (const QString& id : named.split(u' '))
+            QVERIFY2(table.findCommand(id.toStdWString()), qPrintable(id));
         utility::SCommand save;
         QVERIFY(table.GetCommand(L"ID_FILE_SAVE", save));
         QCOMPARE(save.name, std::wstring(L"上書き保存"));

@@ -28,6 +28,8 @@ public:
 // "旧地形" is hidden and holds figures, "予備" and "寸法" hold none, "寸法" is locked and
 // not referenced.
 struct LayerDrawing {
+    // The layers' rows in the layer dialogs.
+    enum Row { Center, Structure, OldGround, Spare, Dimension };
     CMemoryDataBase db{L"道路改良平面図"};
     KsLayer* center = nullptr;
     KsLayer* structure = nullptr;

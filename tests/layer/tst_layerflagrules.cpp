@@ -13,6 +13,7 @@ using namespace kesto::ui::config::layerflags;
 using element::LayerFlagMap;
 using test::CountingView;
 using test::LayerDrawing;
+using enum test::LayerDrawing::Row;
 
 namespace {
 
@@ -40,8 +41,6 @@ QString flagsText(const CLayerFlagEditor& editor)
         out += QString::number(editor.row(i).flag);
     return out;
 }
-
-enum Row { Center, Structure, OldGround, Spare, Dimension };
 
 } // namespace
 

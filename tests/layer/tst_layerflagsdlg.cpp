@@ -11,52 +11,24 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QSettings>
 #include <QTest>
 
 using namespace kesto;
 using namespace kesto::ui::framework;
 using element::LayerFlagMap;
 using test::click;
+using test::columnTexts;
 using test::CountingView;
 using test::LayerDrawing;
+using enum test::LayerDrawing::Row;
+using test::listOf;
 using ui::config::CEditCrossSectionLayersDlg;
 using ui::config::CEditViewPortLayersDlg;
 using ui::control::CKsListCtrl;
 
 namespace {
 
-enum { List = 7062, On = 1039, Off = 1040, Ignore = 1043, Keep = 1044, Explain = 13407 };
-enum Row { Center, Structure, OldGround, Spare, Dimension };
-
-CKsListCtrl& listOf(CKsDialog& d)
-{
-    return *d.dlgItem<CKsListCtrl>(List);
-}
-
-QStringList headers(CKsListCtrl& list)
-{
-    QStringList out;
-    for (int c = 0; c < list.getColumnCount(); ++c)
-        out << list.model()->headerData(c, Qt::Horizontal).toString();
-    return out;
-}
-
-QStringList rowTexts(CKsListCtrl& list, int row)
-{
-    QStringList out;
-    for (int c = 0; c < list.getColumnCount(); ++c)
-        out << list.getCellText(row, c);
-    return out;
-}
-
-QStringList column(CKsListCtrl& list, int c)
-{
-    QStringList out;
-    for (int r = 0; r < list.getRowCount(); ++r)
-        out << list.getCellText(r, c);
-    return out;
-}
+enum { On = 1039, Off = 1040, Ignore = 1043, Keep = 1044, Explain = 13407 };
 
 QString buttonText(CKsDialog& d, int id)
 {
@@ -91,15 +63,9 @@ private slots:
         const std::vector<const element::IViewPort*> viewports;
         const std::vector<const element::ICrossSectionView*> sections;
         QVERIFY(!createCEditViewPortLayersDlgForCreate(nullptr, &view, {}));
-        QVERIFY(!createCEditViewPortLayersDlgForCreate(&drawing.db, nullptr, {}));
-        QVERIFY(!createCEditViewPortLayersDlgForCreate(&empty, &view, {}));
-        QVERIFY(!createCEditViewPortLayersDlgForEdit(nullptr, &view, {}, viewports));
         QVERIFY(!createCEditViewPortLayersDlgForEdit(&empty, &view, {}, viewports));
         QVERIFY(!createCEditCrossSectionLayersDlgForCreate(&drawing.db, nullptr, {}));
-        QVERIFY(!createCEditCrossSectionLayersDlgForCreate(&empty, &view, {}));
-        QVERIFY(!createCEditCrossSectionLayersDlgForEdit(&drawing.db, nullptr, {}, sections));
         QVERIFY(!createCEditCrossSectionLayersDlgForEdit(&empty, &view, {}, sections));
-
         std::unique_ptr<CEditViewPortLayersDlg> forCreate(
             createCEditViewPortLayersDlgForCreate(&drawing.db, &view, {}));
         std::unique_ptr<CEditCrossSectionLayersDlg> forEdit(
@@ -121,15 +87,17 @@ private slots:
         QVERIFY(dialog);
         const int result = run(*dialog, [](CKsDialog& d) {
             CKsListCtrl& list = listOf(d);
-            QCOMPARE(headers(list), QStringList({"表示・非表示", "図形", "表示", "参照", "編集",
-                                                 "レイヤ名称", "色", "線種", "線幅", "コメント"}));
-            QCOMPARE(rowTexts(list, Center), QStringList({"表示", "*", "○", "○", "○", "道路中心線",
-                                                          "", "一点鎖線", "0.18", "中心"}));
-            QCOMPARE(column(list, 0), QStringList({"表示", "非表示", " ", " ", " "}));
-            QCOMPARE(column(list, 1), QStringList({"*", "*", "*", " ", " "}));
-            QCOMPARE(column(list, 2), QStringList({"○", "○", "×", "○", "○"}));
-            QCOMPARE(column(list, 3), QStringList({"○", "○", "○", "○", "×"}));
-            QCOMPARE(column(list, 4), QStringList({"○", "○", "○", "○", "×"}));
+            QCOMPARE(test::headerTexts(list),
+                     QStringList({"表示・非表示", "図形", "表示", "参照", "編集", "レイヤ名称",
+                                  "色", "線種", "線幅", "コメント"}));
+            QCOMPARE(test::rowTexts(list, Center),
+                     QStringList({"表示", "*", "○", "○", "○", "道路中心線", "", "一点鎖線", "0.18",
+                                  "中心"}));
+            QCOMPARE(columnTexts(list, 0), QStringList({"表示", "非表示", " ", " ", " "}));
+            QCOMPARE(columnTexts(list, 1), QStringList({"*", "*", "*", " ", " "}));
+            QCOMPARE(columnTexts(list, 2), QStringList({"○", "○", "×", "○", "○"}));
+            QCOMPARE(columnTexts(list, 3), QStringList({"○", "○", "○", "○", "×"}));
+            QCOMPARE(columnTexts(list, 4), QStringList({"○", "○", "○", "○", "×"}));
             QCOMPARE(list.getCellColor(OldGround, 6), QRgb(0x808080));
             QCOMPARE(list.listModel()->column(0).items, QStringList({" ", "表示", "非表示"}));
             QVERIFY(list.isCellEditable(0, 0) && !list.isCellEditable(0, 5));
@@ -143,7 +111,12 @@ private slots:
             QCOMPARE(buttonText(d, On), QStringLiteral("表示"));
             QCOMPARE(buttonText(d, Off), QStringLiteral("非表示"));
             QCOMPARE(buttonText(d, Ignore), QStringLiteral("無記入"));
-            QVERIFY(click(d, IDOK));
+            QCOMPARE(d.dlgItem<QLabel>(Explain)->text(),
+                     QStringLiteral("表示:このビューポートでは、表示する\n"
+                                    "非表示:このビューポートでは、表示しない\n"
+                                    "無記入:レイヤの設定で表示・非表示\n"
+                                    "(そのまま):現在の設定を維持する"));
+            test::pressOk(d);
         });
         QCOMPARE(result, int(IDOK));
         std::vector<std::pair<std::wstring, char>> flags;
@@ -166,8 +139,8 @@ private slots:
         QVERIFY(dialog);
         run(*dialog, [](CKsDialog& d) {
             CKsListCtrl& list = listOf(d);
-            QCOMPARE(headers(list).first(), QStringLiteral("参照・非参照"));
-            QCOMPARE(column(list, 0), QStringList({" ", "(そのまま)", " ", "非参照", " "}));
+            QCOMPARE(test::headerTexts(list).first(), QStringLiteral("参照・非参照"));
+            QCOMPARE(columnTexts(list, 0), QStringList({" ", "(そのまま)", " ", "非参照", " "}));
             QCOMPARE(list.listModel()->column(0).items,
                      QStringList({" ", "参照", "非参照", "(そのまま)"}));
             QCOMPARE(buttonText(d, On), QStringLiteral("参照"));
@@ -179,22 +152,8 @@ private slots:
                                     "非参照:この断面ビューでは、参照しない\n"
                                     "無記入:レイヤの設定で参照・非参照\n"
                                     "(そのまま):現在の設定を維持する"));
-            click(d, IDCANCEL);
+            test::pressCancel(d);
         });
-    }
-
-    void theViewportExplanationNamesItsFourFlags()
-    {
-        test::HostFixture host;
-        LayerDrawing drawing;
-        CountingView view;
-        std::unique_ptr<CEditViewPortLayersDlg> dialog(
-            createCEditViewPortLayersDlgForCreate(&drawing.db, &view, {}));
-        QCOMPARE(dialog->dlgItem<QLabel>(Explain)->text(),
-                 QStringLiteral("表示:このビューポートでは、表示する\n"
-                                "非表示:このビューポートでは、表示しない\n"
-                                "無記入:レイヤの設定で表示・非表示\n"
-                                "(そのまま):現在の設定を維持する"));
     }
 
     void buttonsSetEverySelectedRowPreviewOnceAndAreUndoneOnClose()
@@ -208,7 +167,7 @@ private slots:
             CKsListCtrl& list = listOf(d);
             list.setRowsSelected({Center, Structure, Spare});
             QVERIFY(click(d, Off));
-            QCOMPARE(column(list, 0), QStringList({"非表示", "非表示", " ", "非表示", " "}));
+            QCOMPARE(columnTexts(list, 0), QStringList({"非表示", "非表示", " ", "非表示", " "}));
             QVERIFY(!drawing.center->isVisible() && !drawing.structure->isVisible());
             QVERIFY(!drawing.spare->isVisible());
             QCOMPARE(view.redraws, 1); // one for the three rows
@@ -258,7 +217,7 @@ private slots:
             QVERIFY(list.commitCellText(Spare, 0, QStringLiteral("非表示")));
             QVERIFY(!drawing.spare->isVisible());
             QCOMPARE(view.redraws, 1);
-            click(d, IDCANCEL);
+            test::pressCancel(d);
         });
         QVERIFY(drawing.center->isVisible() && drawing.spare->isVisible());
         LayerFlagMap flags;
@@ -307,27 +266,6 @@ private slots:
                 == LayerFlagMap({{L"道路中心線", 1}, {L"旧地形", 2}, {L"予備", 2}}));
     }
 
-    void cancelEndsTheViewsPreview()
-    {
-        test::HostFixture host;
-        LayerDrawing drawing;
-        CountingView view;
-        KsCrossSectionView section(L"No.5");
-        section.setLayerFlgs({{L"構造物", 2}});
-        std::unique_ptr<CEditCrossSectionLayersDlg> dialog(
-            createCEditCrossSectionLayersDlgForEdit(&drawing.db, &view, {}, {&section}));
-        run(*dialog, [&](CKsDialog& d) {
-            listOf(d).setRowsSelected({Structure, Center});
-            QVERIFY(click(d, On));
-            QCOMPARE(int(section.getLayerFlg(L"構造物")), 1);
-            QTest::keyClick(&d, Qt::Key_Escape);
-        });
-        QCOMPARE(int(section.getLayerFlg(L"構造物")), 2);
-        QCOMPARE(int(section.getLayerFlg(L"道路中心線")), 0);
-        QCOMPARE(view.redraws, 2);
-        QVERIFY(section.getLayerFlgs() == LayerFlagMap({{L"構造物", 2}}));
-    }
-
     void aDialogDeletedUnclosedStillUndoesItsPreview()
     {
         test::HostFixture host;
@@ -356,12 +294,11 @@ private slots:
             QCOMPARE(d.minimumSize(), first);
             d.resize(first + QSize(60, 40));
             listOf(d).setColumnWidth(5, 250);
-            click(d, IDCANCEL);
+            test::pressCancel(d);
         });
-        core::Application::getInstance()->placements().sync();
-        QSettings saved(host.path(QStringLiteral("placements.ini")), QSettings::IniFormat);
-        QVERIFY(!saved.value(QStringLiteral("CEditViewPortLayersDlg/geometry")).isNull());
-        QVERIFY(saved.value(QStringLiteral("CEditCrossSectionLayersDlg/geometry")).isNull());
+        QVERIFY(!host.savedPlacement(QStringLiteral("CEditViewPortLayersDlg/geometry")).isNull());
+        QVERIFY(
+            host.savedPlacement(QStringLiteral("CEditCrossSectionLayersDlg/geometry")).isNull());
 
         dialog.reset(createCEditViewPortLayersDlgForCreate(&drawing.db, &view, {}));
         run(*dialog, [&](CKsDialog& d) {

@@ -1,9 +1,20 @@
 #include "support/TestSupport.h"
 
+#include "command/CommandTable.h"
+#include "control/KsListCtrl.h"
+#include "framework/MessageBox.h"
+#include "setting/LineWidthSetting.h"
+#include "setting/SystemColorSetting.h"
+#include "setting/SystemLineTypeSetting.h"
+
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
+#include <QDomDocument>
+#include <QFile>
 #include <QMouseEvent>
+#include <QSettings>
 #include <QTest>
 
 namespace kesto::test {
@@ -29,6 +40,22 @@ HostFixture::~HostFixture()
     host->placements().useFile(QDir::temp().filePath(QStringLiteral("kesto-test-placements.ini")));
 }
 
+void HostFixture::putTables()
+{
+    using namespace ui::setting;
+    m_config->putSetting(std::make_unique<CSystemColorSetting>(CSystemColorSetting::makeDefault()));
+    m_config->putSetting(std::make_unique<CColorSetting>());
+    m_config->putSetting(
+        std::make_unique<CSystemLineTypeSetting>(CSystemLineTypeSetting::makeDefault()));
+    m_config->putSetting(std::make_unique<CLineWidthSetting>(CLineWidthSetting::makeDefault()));
+}
+
+QVariant HostFixture::savedPlacement(const QString& key) const
+{
+    core::Application::getInstance()->placements().sync();
+    return QSettings(path(QStringLiteral("placements.ini")), QSettings::IniFormat).value(key);
+}
+
 bool isShown(ui::framework::CKsDialog& dialog, int id)
 {
     QWidget* widget = dialog.GetDlgItem(id);
@@ -50,6 +77,16 @@ bool click(ui::framework::CKsDialog& dialog, int id)
     return true;
 }
 
+void pressOk(ui::framework::CKsDialog& dialog)
+{
+    QVERIFY(click(dialog, ui::framework::IDOK));
+}
+
+void pressCancel(ui::framework::CKsDialog& dialog)
+{
+    QVERIFY(click(dialog, ui::framework::IDCANCEL));
+}
+
 void doubleClick(QWidget* widget, const QPoint& at)
 {
     QTest::mouseClick(widget, Qt::LeftButton, {}, at);
@@ -63,6 +100,105 @@ QString dataFile(const QString& relative)
 {
     const QString root = qEnvironmentVariable("KS_DATA_DIR");
     return QDir(root).filePath(relative);
+}
+
+QByteArray readFile(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool writeFile(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly | QIODevice::Truncate)
+           && file.write(bytes) == bytes.size();
+}
+
+ui::control::CKsListCtrl& listOf(ui::framework::CKsDialog& dialog, int id)
+{
+    auto* list = dialog.dlgItem<ui::control::CKsListCtrl>(id);
+    Q_ASSERT(list);
+    return *list;
+}
+
+QStringList columnTexts(const ui::control::CKsListCtrl& list, int column)
+{
+    QStringList out;
+    for (int r = 0; r < list.getRowCount(); ++r)
+        out << list.getCellText(r, column);
+    return out;
+}
+
+QStringList rowTexts(const ui::control::CKsListCtrl& list, int row)
+{
+    QStringList out;
+    for (int c = 0; c < list.getColumnCount(); ++c)
+        out << list.getCellText(row, c);
+    return out;
+}
+
+QStringList headerTexts(const ui::control::CKsListCtrl& list)
+{
+    QStringList out;
+    for (int c = 0; c < list.getColumnCount(); ++c)
+        out << list.model()->headerData(c, Qt::Horizontal).toString();
+    return out;
+}
+
+QStringList itemTexts(const QComboBox& combo)
+{
+    QStringList out;
+    for (int i = 0; i < combo.count(); ++i)
+        out << combo.itemText(i);
+    return out;
+}
+
+void choose(QComboBox& combo, int index)
+{
+    combo.setCurrentIndex(index);
+    emit combo.activated(index);
+}
+
+QString lastBox(const ui::framework::MessageBoxRecorder& boxes)
+{
+    if (boxes.count() == 0)
+        return QStringLiteral("(no message box)");
+    return boxes.last().caption + u'|' + boxes.last().text;
+}
+
+void expectOkRefused(ui::framework::CKsDialog& dialog,
+                     const ui::framework::MessageBoxRecorder& boxes, const QString& box)
+{
+    const std::size_t before = boxes.count();
+    QVERIFY(click(dialog, ui::framework::IDOK));
+    QCOMPARE(boxes.count(), before + 1);
+    QCOMPARE(lastBox(boxes), box);
+    QVERIFY(!dialog.isEnded());
+}
+
+bool roundTrips(const HostFixture& host, const ui::setting::CSettingBase& saved,
+                ui::setting::CSettingBase& loaded)
+{
+    const std::wstring path = host.path(QStringLiteral("round-trip.xml")).toStdWString();
+    return saved.saveXML(path) && loaded.loadXML(path) && loaded.equals(saved);
+}
+
+bool loadsText(const HostFixture& host, ui::setting::CSettingBase& setting, const QByteArray& text,
+               QString* error)
+{
+    const QString path = host.path(QStringLiteral("loaded.xml"));
+    return writeFile(path, text) && setting.loadXML(path.toStdWString(), error);
+}
+
+utility::CCommandTable commandTable(const QString& xml)
+{
+    utility::CCommandTable table;
+    QDomDocument doc;
+    QString error;
+    if (!doc.setContent(xml) || !table.loadXMLNode(doc.documentElement(), &error))
+        qFatal("test command table refused: %s", qPrintable(error));
+    return table;
 }
 
 } // namespace kesto::test

@@ -2,11 +2,26 @@
 
 #include "core/Application.h"
 #include "framework/KsDialog.h"
+#include "setting/SettingBase.h"
 
 #include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
+#include <QVariant>
 
 #include <memory>
+
+class QComboBox;
+
+namespace kesto::utility {
+class CCommandTable;
+}
+namespace kesto::ui::control {
+class CKsListCtrl;
+}
+namespace kesto::ui::framework {
+class MessageBoxRecorder;
+}
 
 namespace kesto::test {
 
@@ -25,6 +40,11 @@ public:
     QString path(const QString& name) const { return m_dir.filePath(name); }
     const QStringList& helpTopics() const { return m_helpTopics; }
 
+    // The colour, custom colour, line type and line width tables, as the workbench keeps them.
+    void putTables();
+    // A value of the placement file ("Key/name"), read after the host wrote it out.
+    QVariant savedPlacement(const QString& key) const;
+
 private:
     QTemporaryDir m_dir;
     std::shared_ptr<core::CSystemConfig> m_config;
@@ -38,6 +58,9 @@ private:
 bool click(ui::framework::CKsDialog& dialog, int id);
 bool isShown(ui::framework::CKsDialog& dialog, int id);
 bool isEnabled(ui::framework::CKsDialog& dialog, int id);
+// Drivers that end a dialog with OK or Cancel (and fail when the button cannot be clicked).
+void pressOk(ui::framework::CKsDialog& dialog);
+void pressCancel(ui::framework::CKsDialog& dialog);
 
 // A double click as a platform delivers it (QTest::mouseDClick omits the second press that
 // item views need).
@@ -45,5 +68,40 @@ void doubleClick(QWidget* widget, const QPoint& at);
 
 // A file of the test data (tests/data, or KS_DATA_DIR).
 QString dataFile(const QString& relative);
+// A whole file read (empty when it cannot be) or written (false when it cannot be).
+QByteArray readFile(const QString& path);
+bool writeFile(const QString& path, const QByteArray& bytes);
+
+// The grid of a dialog (7062 unless told), and its texts.
+ui::control::CKsListCtrl& listOf(ui::framework::CKsDialog& dialog, int id = 7062);
+QStringList columnTexts(const ui::control::CKsListCtrl& list, int column);
+QStringList rowTexts(const ui::control::CKsListCtrl& list, int row);
+QStringList headerTexts(const ui::control::CKsListCtrl& list);
+QStringList itemTexts(const QComboBox& combo);
+// A user's pick of a combo box entry.
+void choose(QComboBox& combo, int index);
+
+// The last message box as "caption|text".
+QString lastBox(const ui::framework::MessageBoxRecorder& boxes);
+// OK is refused with one more message box, "caption|text"; the dialog stays open.
+void expectOkRefused(ui::framework::CKsDialog& dialog,
+                     const ui::framework::MessageBoxRecorder& boxes, const QString& box);
+
+// Saves the setting as a file of the host's folder and loads it into `loaded`: true when both
+// worked and the loaded setting is the same as the saved one.
+bool roundTrips(const HostFixture& host, const ui::setting::CSettingBase& saved,
+                ui::setting::CSettingBase& loaded);
+template <class Setting>
+bool roundTrips(const HostFixture& host, const Setting& saved)
+{
+    Setting loaded;
+    return roundTrips(host, saved, loaded);
+}
+// Writes the text as a file of the host's folder and loads the setting from it.
+bool loadsText(const HostFixture& host, ui::setting::CSettingBase& setting, const QByteArray& text,
+               QString* error = nullptr);
+
+// A command table read from its XML text.
+utility::CCommandTable commandTable(const QString& xml);
 
 } // namespace kesto::test

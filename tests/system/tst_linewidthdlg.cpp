@@ -6,40 +6,30 @@
 #include "db/MemoryDataBase.h"
 #include "framework/MessageBox.h"
 #include "framework/ModalHook.h"
-#include "setting/SystemColorSetting.h"
 
 #include <QComboBox>
-#include <QSettings>
 #include <QTabBar>
 #include <QTest>
 
 using namespace kesto;
 using namespace kesto::ui::framework;
+using kesto::test::choose;
 using kesto::test::click;
+using kesto::test::columnTexts;
 using kesto::test::isEnabled;
 using kesto::test::isShown;
+using kesto::test::itemTexts;
+using kesto::test::listOf;
 using ui::control::CKsListCtrl;
 using ui::setting::CLineWidthSetting;
 using ui::setting::SLineWidth;
 
 namespace {
 
-enum {
-    Tab = 7071,
-    List = 7062,
-    Add = 7501,
-    Insert = 7698,
-    Delete = 7502,
-    Up = 7401,
-    Down = 7503,
-    Reset = 7704,
-    Register = 13000,
-    Note = 7700,
-    Thin = 7705,
-    Bold = 7706,
-    ExtraBold = 7707,
-    Help = 7500
-};
+constexpr int Tab = 7071, Add = 7501, Insert = 7698, Delete = 7502, Up = 7401, Down = 7503,
+              Reset = 7704;
+constexpr int Register = 13000, Note = 7700, Thin = 7705, Bold = 7706, ExtraBold = 7707,
+              Help = 7500;
 
 // Fixed 0.13 and 0.18 (thin), then the office's 0.3 (bold) and 0.6 (extra bold).
 CLineWidthSetting fourWidths()
@@ -57,19 +47,6 @@ CLineWidthSetting fourWidths()
     return setting;
 }
 
-QStringList names(const CLineWidthSetting& setting)
-{
-    QStringList out;
-    for (const SLineWidth& w : setting.getLineWidths())
-        out << QString::fromStdWString(w.getWidthName());
-    return out;
-}
-
-CKsListCtrl& listOf(CKsDialog& d)
-{
-    return *d.dlgItem<CKsListCtrl>(List);
-}
-
 QTabBar& tabOf(CKsDialog& d)
 {
     return *d.dlgItem<QTabBar>(Tab);
@@ -80,27 +57,12 @@ QComboBox& comboOf(CKsDialog& d, int id)
     return *d.dlgItem<QComboBox>(id);
 }
 
-QStringList column(CKsListCtrl& list, int c)
+QStringList names(const CLineWidthSetting& setting)
 {
     QStringList out;
-    for (int r = 0; r < list.getRowCount(); ++r)
-        out << list.getCellText(r, c);
+    for (const SLineWidth& w : setting.getLineWidths())
+        out << QString::fromStdWString(w.getWidthName());
     return out;
-}
-
-QStringList items(QComboBox& combo)
-{
-    QStringList out;
-    for (int i = 0; i < combo.count(); ++i)
-        out << combo.itemText(i);
-    return out;
-}
-
-// A user's pick of a combo box entry.
-void choose(QComboBox& combo, int index)
-{
-    combo.setCurrentIndex(index);
-    emit combo.activated(index);
 }
 
 // A drawing with its own line widths, 0.25 in red and 0.8 in white.
@@ -119,12 +81,6 @@ struct Drawing {
     }
 };
 
-void putSystemColors(test::HostFixture& host)
-{
-    host.config().putSetting(std::make_unique<ui::setting::CSystemColorSetting>(
-        ui::setting::CSystemColorSetting::makeDefault()));
-}
-
 } // namespace
 
 class TestLineWidthDlg : public QObject {
@@ -140,23 +96,21 @@ private slots:
             QCOMPARE(tabOf(d).count(), 1);
             QCOMPARE(tabOf(d).tabText(0), QStringLiteral("システム"));
             CKsListCtrl& list = listOf(d);
-            QCOMPARE(list.model()->headerData(1, Qt::Horizontal).toString(), QStringLiteral("幅"));
-            QCOMPARE(list.model()->headerData(2, Qt::Horizontal).toString(), QStringLiteral("色"));
+            QCOMPARE(test::headerTexts(list).mid(1), QStringList({"幅", "色"}));
             QCOMPARE(list.columnWidth(0), 15);
-            QCOMPARE(column(list, 0), QStringList({"*", "*", "", ""}));
-            QCOMPARE(column(list, 1), QStringList({"0.13", "0.18", "0.3", "0.6"}));
+            QCOMPARE(columnTexts(list, 0), QStringList({"*", "*", "", ""}));
+            QCOMPARE(columnTexts(list, 1), QStringList({"0.13", "0.18", "0.3", "0.6"}));
             QCOMPARE(list.getCellColor(3, 2), QRgb(0xFF0000));
             QVERIFY(!list.isCellEditable(1, 1) && list.isCellEditable(2, 1));
             QVERIFY(list.isCellEditable(1, 2)); // a fixed entry's colour may change
-            QVERIFY(isShown(d, Note));
             QCOMPARE(d.GetDlgItem(Note)->property("text").toString(),
                      QStringLiteral("*はシステムの規定値であり、線幅の変更不可"));
-            QVERIFY(!isShown(d, Register));
-            QCOMPARE(items(comboOf(d, Thin)), column(list, 1));
+            QVERIFY(isShown(d, Note) && !isShown(d, Register));
+            QCOMPARE(itemTexts(comboOf(d, Thin)), columnTexts(list, 1));
             QCOMPARE(comboOf(d, Thin).currentText(), QStringLiteral("0.18"));
             QCOMPARE(comboOf(d, Bold).currentText(), QStringLiteral("0.3"));
             QCOMPARE(comboOf(d, ExtraBold).currentText(), QStringLiteral("0.6"));
-            click(d, IDCANCEL);
+            test::pressCancel(d);
         });
         QVERIFY(!ui::config::doLineWidthDlg(setting, CLineWidthSetting::makeDefault(), nullptr));
     }
@@ -168,22 +122,16 @@ private slots:
         ScopedModalDrivers drivers([](CKsDialog& d) {
             CKsListCtrl& list = listOf(d);
             list.selectRow(1);
-            QVERIFY(!isEnabled(d, Insert) && !isEnabled(d, Delete));
-            QVERIFY(!isEnabled(d, Up) && !isEnabled(d, Down));
+            QVERIFY(!isEnabled(d, Delete) && !isEnabled(d, Down));
             list.selectRow(2);
-            QVERIFY(isEnabled(d, Insert) && isEnabled(d, Delete) && isEnabled(d, Down));
             QVERIFY(!isEnabled(d, Up)); // not past the fixed 0.18
             QVERIFY(click(d, Down));
-            QCOMPARE(column(list, 1), QStringList({"0.13", "0.18", "0.6", "0.3"}));
+            QCOMPARE(columnTexts(list, 1), QStringList({"0.13", "0.18", "0.6", "0.3"}));
             QCOMPARE(list.getSelectedRow(), 3);
-            QVERIFY(!isEnabled(d, Down) && isEnabled(d, Up));
             QVERIFY(click(d, Delete));
-            QCOMPARE(column(list, 1), QStringList({"0.13", "0.18", "0.6"}));
+            QCOMPARE(columnTexts(list, 1), QStringList({"0.13", "0.18", "0.6"}));
             QCOMPARE(list.getSelectedRow(), 2);
-            QVERIFY(isEnabled(d, Delete));
-            list.selectRow(0);
-            QVERIFY(!click(d, Delete));
-            click(d, IDOK);
+            test::pressOk(d);
         });
         QVERIFY(ui::config::doLineWidthDlg(setting, {}, nullptr));
         QCOMPARE(names(setting), QStringList({"0.13", "0.18", "0.6"}));
@@ -197,24 +145,23 @@ private slots:
         ScopedModalDrivers drivers([](CKsDialog& d) {
             CKsListCtrl& list = listOf(d);
             QVERIFY(click(d, Add));
-            QCOMPARE(list.getRowCount(), 5);
             QCOMPARE(list.getSelectedRow(), 4);
             QCOMPARE(list.getCellText(4, 1), QStringLiteral("0"));
             QCOMPARE(list.getCellColor(4, 2), QRgb(0x000000));
             QVERIFY(list.commitCellText(4, 1, QStringLiteral("0.45")));
             list.selectRow(3);
             QVERIFY(click(d, Insert));
-            QCOMPARE(column(list, 1), QStringList({"0.13", "0.18", "0.3", "0", "0.6", "0.45"}));
+            QCOMPARE(columnTexts(list, 1),
+                     QStringList({"0.13", "0.18", "0.3", "0", "0.6", "0.45"}));
             QCOMPARE(list.getSelectedRow(), 3);
-            QCOMPARE(items(comboOf(d, Bold)), column(list, 1));
-            click(d, IDOK);
+            QCOMPARE(itemTexts(comboOf(d, Bold)), columnTexts(list, 1));
+            test::pressOk(d);
         });
         QVERIFY(ui::config::doLineWidthDlg(setting, {}, nullptr));
         core::Application::getInstance()->setBackgroundColor(0x000000);
         QCOMPARE(names(setting), QStringList({"0.13", "0.18", "0.3", "0", "0.6", "0.45"}));
         const SLineWidth& added = setting.getLineWidths()[5];
         QCOMPARE(added.getColorName(), std::wstring(L"黒"));
-        QCOMPARE(added.getColorType(), 1);
         QVERIFY(!added.isSystemDefault());
         QCOMPARE(setting.getLineWidths()[3].getColor(), 0x000000u);
     }
@@ -233,29 +180,29 @@ private slots:
             QCOMPARE(boxes.count(), std::size_t(0));
             QVERIFY(list.commitCellText(3, 1, QStringLiteral("太め")));
             QCOMPARE(list.getCellText(3, 1), QStringLiteral("0.6"));
-            QCOMPARE(boxes.count(), std::size_t(1));
-            QCOMPARE(boxes.last().text,
-                     QStringLiteral("4 行目の幅には 0 より大きい数値を入力してください。"));
-            QCOMPARE(boxes.last().caption, QStringLiteral("入力値エラー"));
+            QCOMPARE(test::lastBox(boxes),
+                     QStringLiteral("入力値エラー|4 行目の幅には 0 より大きい数値を入力して"
+                                    "ください。"));
             QVERIFY(!list.commitCellText(0, 1, QStringLiteral("0.1"))); // fixed entry
             QVERIFY(list.commitCellText(3, 1, QStringLiteral("0.7")));
-            QCOMPARE(list.getCellText(3, 1), QStringLiteral("0.7"));
             QCOMPARE(comboOf(d, ExtraBold).currentIndex(), -1); // 0.6 is gone
-            click(d, IDOK);
+            test::pressOk(d);
         });
         QVERIFY(ui::config::doLineWidthDlg(setting, {}, nullptr));
         QCOMPARE(names(setting), QStringList({"0.13", "0.18", "0.3", "0.7"}));
     }
 
-    void coloursAreStoredWithTheirSystemNames()
+    void coloursAndTheKindsChosenAreStored()
     {
         test::HostFixture host;
-        putSystemColors(host);
+        host.putTables();
         CLineWidthSetting setting = fourWidths();
         ScopedModalDrivers drivers([](CKsDialog& d) {
             QVERIFY(listOf(d).commitCellColor(0, 2, 0x0000FF));
             QVERIFY(listOf(d).commitCellColor(2, 2, 0x123456));
-            click(d, IDOK);
+            choose(comboOf(d, Bold), 0);
+            choose(comboOf(d, ExtraBold), 2);
+            test::pressOk(d);
         });
         QVERIFY(ui::config::doLineWidthDlg(setting, {}, nullptr));
         const auto& widths = setting.getLineWidths();
@@ -264,21 +211,9 @@ private slots:
         QCOMPARE(widths[0].getColorType(), 1);
         QCOMPARE(widths[2].getColor(), 0x123456u);
         QCOMPARE(widths[2].getColorType(), 2);
-    }
-
-    void theKindCombosChooseThinBoldAndExtraBold()
-    {
-        test::HostFixture host;
-        CLineWidthSetting setting = fourWidths();
-        ScopedModalDrivers drivers([](CKsDialog& d) {
-            choose(comboOf(d, Bold), 0);
-            choose(comboOf(d, ExtraBold), 2);
-            click(d, IDOK);
-        });
-        QVERIFY(ui::config::doLineWidthDlg(setting, {}, nullptr));
         QCOMPARE(setting.getThinLineWidth().getWidth(), 0.18);
         QCOMPARE(setting.getBoldLineWidth().getWidth(), 0.13);
-        QCOMPARE(setting.getBoldLineWidth().getColorName(), std::wstring(L"水色"));
+        QCOMPARE(setting.getBoldLineWidth().getColorName(), std::wstring(L"青"));
         QCOMPARE(setting.getExtraBoldLineWidth().getWidth(), 0.3);
     }
 
@@ -291,7 +226,7 @@ private slots:
         drivers.add([](CKsDialog& d) {
             click(d, Add);
             choose(comboOf(d, Thin), 0);
-            click(d, IDCANCEL);
+            test::pressCancel(d);
         });
         drivers.add([](CKsDialog& d) {
             click(d, Add);
@@ -302,7 +237,7 @@ private slots:
             QCOMPARE(listOf(d).getSelectedRow(), -1);
             QCOMPARE(comboOf(d, Thin).currentText(), QStringLiteral("0.18"));
             QCOMPARE(comboOf(d, ExtraBold).currentText(), QStringLiteral("0.7"));
-            click(d, IDOK);
+            test::pressOk(d);
         });
         QVERIFY(!ui::config::doLineWidthDlg(setting, defaults, nullptr));
         QVERIFY(setting.isSame(fourWidths()));
@@ -313,7 +248,7 @@ private slots:
     void theDrawingTabEditsTheDrawingsWidthsAndRegistersNewOnes()
     {
         test::HostFixture host;
-        putSystemColors(host);
+        host.putTables();
         Drawing drawing;
         MessageBoxRecorder boxes;
         CLineWidthSetting setting = fourWidths();
@@ -327,21 +262,19 @@ private slots:
             QCOMPARE(tabOf(d).tabText(1), QStringLiteral("図面内"));
             tabOf(d).setCurrentIndex(1);
             CKsListCtrl& list = listOf(d);
-            QCOMPARE(column(list, 1), QStringList({"0.25", "0.8"}));
-            QCOMPARE(column(list, 0), QStringList({"", ""}));
+            QCOMPARE(columnTexts(list, 1), QStringList({"0.25", "0.8"}));
+            QCOMPARE(columnTexts(list, 0), QStringList({"", ""}));
             QVERIFY(!isShown(d, Note));
             QVERIFY(isShown(d, Register) && !isEnabled(d, Register));
             QVERIFY(!isEnabled(d, Add) && !isEnabled(d, Reset));
-            QCOMPARE(items(comboOf(d, Bold)), QStringList({"0.25", "0.8"}));
+            QCOMPARE(itemTexts(comboOf(d, Bold)), QStringList({"0.25", "0.8"}));
             QCOMPARE(comboOf(d, Thin).currentIndex(), -1);
 
             list.selectRow(0);
             QVERIFY(!isEnabled(d, Insert) && !isEnabled(d, Delete) && !isEnabled(d, Up));
             QVERIFY(click(d, Register));
-            QCOMPARE(boxes.count(), std::size_t(1));
-            QCOMPARE(boxes.last().text,
-                     QStringLiteral("既に同じ線幅がシステム設定に存在しています。"));
-            QCOMPARE(boxes.last().caption, QStringLiteral("入力値エラー"));
+            QCOMPARE(test::lastBox(boxes),
+                     QStringLiteral("入力値エラー|既に同じ線幅がシステム設定に存在しています。"));
             list.selectRow(1);
             QVERIFY(click(d, Register));
             QCOMPARE(boxes.count(), std::size_t(1));
@@ -353,9 +286,9 @@ private slots:
             choose(comboOf(d, Bold), 1);
 
             tabOf(d).setCurrentIndex(0);
-            QCOMPARE(column(listOf(d), 1).last(), QStringLiteral("0.8"));
+            QCOMPARE(columnTexts(listOf(d), 1).last(), QStringLiteral("0.8"));
             QVERIFY(!isShown(d, Register));
-            click(d, IDOK);
+            test::pressOk(d);
         });
         QVERIFY(ui::config::doLineWidthDlg(setting, {}, &drawing.db));
         QCOMPARE(names(setting), QStringList({"0.13", "0.18", "0.3", "0.6", "0.25", "0.8"}));
@@ -364,13 +297,12 @@ private slots:
         QCOMPARE(drawing.red->getName(), std::wstring(L"0.18"));
         QCOMPARE(drawing.white->getColor(), 0x00A000u);
         QCOMPARE(drawing.white->getColorName(), std::wstring(L"緑"));
-        KsLineWidth bold;
-        QVERIFY(drawing.db.getLineWidthOfKind(KsLineWidth::Bold, bold));
-        QCOMPARE(bold.getWidth(), 0.8);
-        QCOMPARE(bold.getColor(), 0x00A000u);
-        KsLineWidth thin;
-        QVERIFY(drawing.db.getLineWidthOfKind(KsLineWidth::Thin, thin));
-        QCOMPARE(thin.getWidth(), 0.18);
+        KsLineWidth kind;
+        QVERIFY(drawing.db.getLineWidthOfKind(KsLineWidth::Bold, kind));
+        QCOMPARE(kind.getWidth(), 0.8);
+        QCOMPARE(kind.getColor(), 0x00A000u);
+        QVERIFY(drawing.db.getLineWidthOfKind(KsLineWidth::Thin, kind));
+        QCOMPARE(kind.getWidth(), 0.18);
         // Once by the dialog, once by the entry function.
         QCOMPARE(drawing.db.getChangeRecord(),
                  (std::vector<std::wstring>{L"線幅設定", L"線幅設定"}));
@@ -385,7 +317,7 @@ private slots:
             tabOf(d).setCurrentIndex(1);
             listOf(d).commitCellText(0, 1, QStringLiteral("2"));
             choose(comboOf(d, Thin), 1);
-            click(d, IDCANCEL);
+            test::pressCancel(d);
         });
         QVERIFY(!ui::config::doLineWidthDlg(setting, {}, &drawing.db));
         QCOMPARE(drawing.red->getWidth(), 0.25);
@@ -402,13 +334,11 @@ private slots:
         CLineWidthSetting setting = fourWidths();
         ScopedModalDrivers drivers([](CKsDialog& d) {
             QVERIFY(click(d, Help));
-            click(d, IDCANCEL);
+            test::pressCancel(d);
         });
         ui::config::doLineWidthDlg(setting, {}, nullptr);
         QCOMPARE(host.helpTopics(), QStringList{QStringLiteral("DLG_HLP_SYS_LINEWIDTH")});
-        core::Application::getInstance()->placements().sync();
-        QSettings saved(host.path(QStringLiteral("placements.ini")), QSettings::IniFormat);
-        QVERIFY(!saved.value(QStringLiteral("LineWidthDlg/geometry")).toByteArray().isEmpty());
+        QVERIFY(!host.savedPlacement(QStringLiteral("LineWidthDlg/geometry")).isNull());
     }
 };
 

@@ -9,18 +9,17 @@
 #include "framework/ColorChooser.h"
 #include "framework/MessageBox.h"
 #include "framework/ModalHook.h"
-#include "setting/LineWidthSetting.h"
 #include "setting/SystemColorSetting.h"
-#include "setting/SystemLineTypeSetting.h"
 #include "system/PaperFrameDiagram.h"
 
 #include <QComboBox>
-#include <QSettings>
 #include <QTest>
 
 using namespace kesto;
 using namespace kesto::ui::framework;
 using kesto::test::click;
+using kesto::test::listOf;
+using kesto::test::rowTexts;
 using ui::control::CKsListCtrl;
 using ui::control::CSystemColorComboBox;
 using ui::control::CSystemLineTypeComboBox;
@@ -30,25 +29,9 @@ using ui::setting::SPaperFrame;
 
 namespace {
 
-enum {
-    List = 7062,
-    Add = 7501,
-    Insert = 7698,
-    Delete = 7502,
-    Reset = 7699,
-    DrawColor = 7683,
-    DrawLineType = 7684,
-    DrawWidth = 7685,
-    InnerColor = 7472,
-    InnerLineType = 7473,
-    InnerWidth = 7474,
-    CutColor = 7690,
-    CutLineType = 7692,
-    CutWidth = 7694,
-    Picture = 7526,
-    InitName = 7697,
-    Help = 7500
-};
+constexpr int Add = 7501, Delete = 7502, Reset = 7699, Picture = 7526, InitName = 7697, Help = 7500;
+constexpr int DrawColor = 7683, DrawWidth = 7685, InnerColor = 7472, InnerWidth = 7474,
+              CutColor = 7690, CutLineType = 7692;
 
 // Two frames, A1 and A3; new drawings start with A1.
 CSystemPaperFrameSetting twoFrames()
@@ -57,48 +40,6 @@ CSystemPaperFrameSetting twoFrames()
     std::vector<SPaperFrame> frames = setting.getPaperFrames();
     setting.setPaperFrames({frames[1], frames[3]});
     return setting;
-}
-
-void putTables(test::HostFixture& host)
-{
-    using namespace ui::setting;
-    host.config().putSetting(
-        std::make_unique<CSystemColorSetting>(CSystemColorSetting::makeDefault()));
-    host.config().putSetting(std::make_unique<CColorSetting>());
-    host.config().putSetting(
-        std::make_unique<CSystemLineTypeSetting>(CSystemLineTypeSetting::makeDefault()));
-    host.config().putSetting(std::make_unique<CLineWidthSetting>(CLineWidthSetting::makeDefault()));
-}
-
-CKsListCtrl& listOf(CKsDialog& d)
-{
-    return *d.dlgItem<CKsListCtrl>(List);
-}
-
-QStringList row(CKsListCtrl& list, int r)
-{
-    QStringList out;
-    for (int c = 0; c < list.getColumnCount(); ++c)
-        out << list.getCellText(r, c);
-    return out;
-}
-
-QStringList headers(CKsListCtrl& list)
-{
-    QStringList out;
-    for (int c = 0; c < list.getColumnCount(); ++c)
-        out << list.model()->headerData(c, Qt::Horizontal).toString();
-    return out;
-}
-
-void expectRefusal(CKsDialog& d, MessageBoxRecorder& boxes, const QString& text)
-{
-    const std::size_t before = boxes.count();
-    QVERIFY(click(d, IDOK));
-    QCOMPARE(boxes.count(), before + 1);
-    QCOMPARE(boxes.last().text, text);
-    QCOMPARE(boxes.last().caption, QStringLiteral("入力値エラー"));
-    QVERIFY(!d.isEnded());
 }
 
 } // namespace
@@ -110,18 +51,19 @@ private slots:
     void framesAndLineLooksAreShown()
     {
         test::HostFixture host;
-        putTables(host);
+        host.putTables();
         CSystemPaperFrameSetting setting = twoFrames();
         ScopedModalDrivers drivers([](CKsDialog& d) {
             QCOMPARE(d.windowTitle(), QStringLiteral("図面枠の設定"));
             CKsListCtrl& list = listOf(d);
-            QCOMPARE(headers(list), QStringList({"名称", "A", "B", "C", "D", "E", "F", "G", "H",
-                                                 "図面枠", "内枠線", "切取線"}));
+            QCOMPARE(test::headerTexts(list),
+                     QStringList({"名称", "A", "B", "C", "D", "E", "F", "G", "H", "図面枠",
+                                  "内枠線", "切取線"}));
             QCOMPARE(list.columnWidth(0), 160);
             QCOMPARE(list.columnWidth(8), 30);
             QCOMPARE(list.columnWidth(11), 70);
-            QCOMPARE(row(list, 1), QStringList({"A3", "25", "10", "10", "10", "2", "2", "120", "40",
-                                                "○", "×", "○"}));
+            QCOMPARE(rowTexts(list, 1), QStringList({"A3", "25", "10", "10", "10", "2", "2", "120",
+                                                     "40", "○", "×", "○"}));
             QCOMPARE(list.listModel()->column(10).items, QStringList({"○", "×"}));
             auto* color = d.dlgItem<CSystemColorComboBox>(InnerColor);
             QCOMPARE(color->itemText(0), QStringLiteral("レイヤ依存"));
@@ -133,7 +75,7 @@ private slots:
             auto* width = d.dlgItem<SelectLineWidthComboBox>(DrawWidth);
             QCOMPARE(width->getKind(width->currentIndex()), int(KsLineWidth::Bold));
             QCOMPARE(d.dlgItem<QComboBox>(InitName)->currentText(), QStringLiteral("A1"));
-            click(d, IDCANCEL);
+            test::pressCancel(d);
         });
         QVERIFY(!ui::config::doSystemPaperFrameDlg(setting, {}));
     }
@@ -141,21 +83,13 @@ private slots:
     void editedFramesAndLooksAreStoredOnOk()
     {
         test::HostFixture host;
-        putTables(host);
+        host.putTables();
         CSystemPaperFrameSetting setting = twoFrames();
         ScopedModalDrivers drivers([](CKsDialog& d) {
             CKsListCtrl& list = listOf(d);
             QVERIFY(list.commitCellText(0, 7, QStringLiteral("１８０")));
             QCOMPARE(list.getCellText(0, 7), QStringLiteral("180"));
-            // A flag chosen in its cell's combo box.
-            const QModelIndex flag = list.model()->index(0, 11);
-            list.setCurrentIndex(flag);
-            list.edit(flag);
-            auto* editor = list.findChild<QComboBox*>();
-            QVERIFY(editor);
-            editor->setCurrentIndex(1);
-            emit editor->activated(1);
-            QTRY_COMPARE(list.getCellText(0, 11), QStringLiteral("×"));
+            QVERIFY(list.commitCellText(0, 11, QStringLiteral("×")));
             QVERIFY(list.commitCellText(1, 9, QStringLiteral("o"))); // not "○": false
 
             auto* color = d.dlgItem<CSystemColorComboBox>(DrawColor);
@@ -167,7 +101,7 @@ private slots:
             auto* width = d.dlgItem<SelectLineWidthComboBox>(InnerWidth);
             width->setCurrentIndex(width->findText(QStringLiteral("0.5")));
             d.dlgItem<QComboBox>(InitName)->setCurrentIndex(1);
-            click(d, IDOK);
+            test::pressOk(d);
         });
         QVERIFY(ui::config::doSystemPaperFrameDlg(setting, {}));
         const auto& frames = setting.getPaperFrames();
@@ -188,30 +122,33 @@ private slots:
     void okRefusesMissingAndRepeatedNames()
     {
         test::HostFixture host;
-        putTables(host);
+        host.putTables();
         MessageBoxRecorder boxes;
         CSystemPaperFrameSetting setting = twoFrames();
         ScopedModalDrivers drivers([&](CKsDialog& d) {
             CKsListCtrl& list = listOf(d);
             QVERIFY(click(d, Add));
-            QCOMPARE(row(list, 2), QStringList({"新規枠", "1", "1", "1", "1", "1", "1", "1", "1",
-                                                "○", "○", "○"}));
+            QCOMPARE(rowTexts(list, 2), QStringList({"新規枠", "1", "1", "1", "1", "1", "1", "1",
+                                                     "1", "○", "○", "○"}));
             list.commitCellText(1, 0, QString());
-            expectRefusal(d, boxes, QStringLiteral("2 行目のデータに名前がありません！"));
+            test::expectOkRefused(
+                d, boxes, QStringLiteral("入力値エラー|2 行目のデータに名前がありません！"));
             QCOMPARE(list.getSelectedRow(), 1);
             list.commitCellText(1, 0, QStringLiteral("A3"));
             list.commitCellText(2, 0, QStringLiteral("A1"));
-            expectRefusal(d, boxes, QStringLiteral("3 行目\n名称が重複しています\n重複名：A1"));
+            test::expectOkRefused(
+                d, boxes, QStringLiteral("入力値エラー|3 行目\n名称が重複しています\n重複名：A1"));
             QCOMPARE(list.getSelectedRow(), 2);
             while (list.getRowCount() > 0) {
                 list.selectRow(0);
                 QVERIFY(click(d, Delete));
             }
             QCOMPARE(d.dlgItem<QComboBox>(InitName)->count(), 0);
-            expectRefusal(d, boxes,
-                          QStringLiteral("図面データがありません！\n１つ以上の図面データを設定"
-                                         "してください。"));
-            click(d, IDCANCEL);
+            test::expectOkRefused(
+                d, boxes,
+                QStringLiteral("入力値エラー|図面データがありません！\n１つ以上の図面データを設定"
+                               "してください。"));
+            test::pressCancel(d);
         });
         QVERIFY(!ui::config::doSystemPaperFrameDlg(setting, {}));
         QVERIFY(setting.isSame(twoFrames()));
@@ -220,7 +157,7 @@ private slots:
     void aDimensionMustBeAWholeNumberAboveZero()
     {
         test::HostFixture host;
-        putTables(host);
+        host.putTables();
         MessageBoxRecorder boxes;
         CSystemPaperFrameSetting setting = twoFrames();
         ScopedModalDrivers drivers([&](CKsDialog& d) {
@@ -228,14 +165,13 @@ private slots:
             list.commitCellText(1, 3, QStringLiteral("12"));
             list.commitCellText(1, 3, QStringLiteral("0"));
             QCOMPARE(list.getCellText(1, 3), QStringLiteral("12"));
-            QCOMPARE(boxes.count(), std::size_t(1));
-            QCOMPARE(boxes.last().text,
-                     QStringLiteral("2 行目のCには 0 より大きい数値を入力してください。"));
-            QCOMPARE(boxes.last().caption, QStringLiteral("入力値エラー"));
+            QCOMPARE(test::lastBox(boxes),
+                     QStringLiteral("入力値エラー|2 行目のCには 0 より大きい数値を入力して"
+                                    "ください。"));
             list.commitCellText(0, 1, QStringLiteral("2.5"));
             QCOMPARE(list.getCellText(0, 1), QStringLiteral("30"));
             QCOMPARE(boxes.count(), std::size_t(2));
-            click(d, IDOK);
+            test::pressOk(d);
         });
         QVERIFY(ui::config::doSystemPaperFrameDlg(setting, {}));
         QCOMPARE(setting.getPaperFrames()[1].dimensions[2], 12);
@@ -245,7 +181,7 @@ private slots:
     void thePictureShowsTheSelectedFramesValues()
     {
         test::HostFixture host;
-        putTables(host);
+        host.putTables();
         CSystemPaperFrameSetting setting = twoFrames();
         ScopedModalDrivers drivers([](CKsDialog& d) {
             auto* picture = d.dlgItem<ui::config::CPaperFrameDiagram>(Picture);
@@ -259,7 +195,7 @@ private slots:
             QCOMPARE(picture->labelOf(7), QStringLiteral("H=45"));
             const QImage image = picture->grab().toImage();
             QVERIFY(image.width() >= 300 && image.height() >= 200);
-            click(d, IDCANCEL);
+            test::pressCancel(d);
         });
         ui::config::doSystemPaperFrameDlg(setting, {});
     }
@@ -267,14 +203,14 @@ private slots:
     void anotherColourIsMixedKeptAndStored()
     {
         test::HostFixture host;
-        putTables(host);
+        host.putTables();
         CSystemPaperFrameSetting setting = twoFrames();
         const auto previous =
             ColorChooserHook::setHandler([](const QColor&) { return QColor(0x33, 0x66, 0x99); });
         ScopedModalDrivers drivers([](CKsDialog& d) {
             auto* color = d.dlgItem<CSystemColorComboBox>(CutColor);
             color->chooseEntry(color->getOtherColorIndex());
-            click(d, IDOK);
+            test::pressOk(d);
         });
         QVERIFY(ui::config::doSystemPaperFrameDlg(setting, {}));
         ColorChooserHook::setHandler(previous);
@@ -287,22 +223,19 @@ private slots:
     void resetHelpAndPlacement()
     {
         test::HostFixture host;
-        putTables(host);
+        host.putTables();
         CSystemPaperFrameSetting setting = twoFrames();
         ScopedModalDrivers drivers([](CKsDialog& d) {
             QVERIFY(click(d, Reset));
             QCOMPARE(listOf(d).getRowCount(), 7);
             QVERIFY(click(d, Help));
-            click(d, IDOK);
+            test::pressOk(d);
         });
         QVERIFY(
             ui::config::doSystemPaperFrameDlg(setting, CSystemPaperFrameSetting::makeDefault()));
         QVERIFY(setting.isSame(CSystemPaperFrameSetting::makeDefault()));
         QCOMPARE(host.helpTopics(), QStringList{QStringLiteral("DLG_HLP_SYS_FRAME")});
-        core::Application::getInstance()->placements().sync();
-        QSettings saved(host.path(QStringLiteral("placements.ini")), QSettings::IniFormat);
-        QVERIFY(
-            !saved.value(QStringLiteral("SystemPaperFrameDlg/geometry")).toByteArray().isEmpty());
+        QVERIFY(!host.savedPlacement(QStringLiteral("SystemPaperFrameDlg/geometry")).isNull());
     }
 };
 

@@ -7,19 +7,21 @@
 #include "framework/ModalHook.h"
 
 #include <QComboBox>
-#include <QSettings>
 #include <QTest>
 
 using namespace kesto;
 using namespace kesto::ui::framework;
 using kesto::test::click;
+using kesto::test::columnTexts;
 using kesto::test::isEnabled;
+using kesto::test::itemTexts;
+using kesto::test::listOf;
 using ui::control::CKsListCtrl;
 using ui::setting::CSystemPaperSizeSetting;
 
 namespace {
 
-enum { List = 7062, Add = 1001, Insert = 1002, Delete = 1003, Reset = 1004, InitName = 7081 };
+enum { Add = 1001, Insert = 1002, Delete = 1003, Reset = 1004, InitName = 7081 };
 
 CSystemPaperSizeSetting threeSizes()
 {
@@ -28,30 +30,9 @@ CSystemPaperSizeSetting threeSizes()
     return setting;
 }
 
-CKsListCtrl& listOf(CKsDialog& d)
-{
-    return *d.dlgItem<CKsListCtrl>(List);
-}
-
 QComboBox& initOf(CKsDialog& d)
 {
     return *d.dlgItem<QComboBox>(InitName);
-}
-
-QStringList column(CKsListCtrl& list, int c)
-{
-    QStringList out;
-    for (int r = 0; r < list.getRowCount(); ++r)
-        out << list.getCellText(r, c);
-    return out;
-}
-
-QStringList items(QComboBox& combo)
-{
-    QStringList out;
-    for (int i = 0; i < combo.count(); ++i)
-        out << combo.itemText(i);
-    return out;
 }
 
 QStringList names(const CSystemPaperSizeSetting& setting)
@@ -60,17 +41,6 @@ QStringList names(const CSystemPaperSizeSetting& setting)
     for (const auto& size : setting.getPaperSizes())
         out << QString::fromStdWString(size.name);
     return out;
-}
-
-// OK is refused with this text under "入力値エラー"; the dialog stays open.
-void expectRefusal(CKsDialog& d, MessageBoxRecorder& boxes, const QString& text)
-{
-    const std::size_t before = boxes.count();
-    QVERIFY(click(d, IDOK));
-    QCOMPARE(boxes.count(), before + 1);
-    QCOMPARE(boxes.last().text, text);
-    QCOMPARE(boxes.last().caption, QStringLiteral("入力値エラー"));
-    QVERIFY(!d.isEnded());
 }
 
 } // namespace
@@ -86,19 +56,17 @@ private slots:
         ScopedModalDrivers drivers([](CKsDialog& d) {
             QCOMPARE(d.windowTitle(), QStringLiteral("用紙サイズの設定"));
             CKsListCtrl& list = listOf(d);
-            const QStringList headers{"名称", "高さ(mm)", "幅(mm)"};
-            for (int c = 0; c < 3; ++c) {
-                QCOMPARE(list.model()->headerData(c, Qt::Horizontal).toString(), headers[c]);
+            QCOMPARE(test::headerTexts(list), QStringList({"名称", "高さ(mm)", "幅(mm)"}));
+            for (int c = 0; c < 3; ++c)
                 QCOMPARE(list.columnWidth(c), 100);
-            }
-            QCOMPARE(column(list, 1), QStringList({"841", "594", "297"}));
-            QCOMPARE(items(initOf(d)), QStringList({"A0", "A1", "A3"}));
+            QCOMPARE(columnTexts(list, 1), QStringList({"841", "594", "297"}));
+            QCOMPARE(itemTexts(initOf(d)), QStringList({"A0", "A1", "A3"}));
             QCOMPARE(initOf(d).currentText(), QStringLiteral("A1"));
             QVERIFY(isEnabled(d, Add) && isEnabled(d, Reset));
             QVERIFY(!isEnabled(d, Insert) && !isEnabled(d, Delete));
             list.selectRow(0);
             QVERIFY(isEnabled(d, Insert) && isEnabled(d, Delete));
-            click(d, IDCANCEL);
+            test::pressCancel(d);
         });
         QVERIFY(!ui::config::doPaperSizeDlg(setting, CSystemPaperSizeSetting::makeDefault()));
     }
@@ -108,7 +76,7 @@ private slots:
         test::HostFixture host;
         CSystemPaperSizeSetting setting = threeSizes();
         ScopedModalDrivers drivers;
-        drivers.add([](CKsDialog& d) { QVERIFY(click(d, IDOK)); });
+        drivers.add(test::pressOk);
         drivers.add([](CKsDialog& d) {
             // Typed back to what it was: still no change.
             listOf(d).commitCellText(0, 1, QStringLiteral("８４１"));
@@ -134,23 +102,29 @@ private slots:
         ScopedModalDrivers drivers([&](CKsDialog& d) {
             CKsListCtrl& list = listOf(d);
             QVERIFY(click(d, Add));
-            QCOMPARE(column(list, 0).last(), QStringLiteral("新サイズ"));
+            QCOMPARE(columnTexts(list, 0).last(), QStringLiteral("新サイズ"));
             QCOMPARE(list.getCellText(3, 1), QStringLiteral("1"));
             list.commitCellText(1, 0, QString());
             list.commitCellText(2, 1, QStringLiteral("0"));
             list.commitCellText(2, 2, QStringLiteral("abc"));
             QCOMPARE(list.getCellText(2, 2), QStringLiteral("0"));
-            expectRefusal(d, boxes, QStringLiteral("2 行目のデータに名前がありません"));
+            test::expectOkRefused(d, boxes,
+                                  QStringLiteral("入力値エラー|2 行目のデータに名前がありません"));
             QCOMPARE(list.getSelectedRow(), 1);
             list.commitCellText(1, 0, QStringLiteral("A3"));
-            expectRefusal(d, boxes,
-                          QStringLiteral("3 行目の高さが小さすぎです\n0 よりも大きくしてください"));
+            test::expectOkRefused(
+                d, boxes,
+                QStringLiteral(
+                    "入力値エラー|3 行目の高さが小さすぎです\n0 よりも大きくしてください"));
             QCOMPARE(list.getSelectedRow(), 2);
             list.commitCellText(2, 1, QStringLiteral("297"));
-            expectRefusal(d, boxes,
-                          QStringLiteral("3 行目の幅が小さすぎです\n0 よりも大きくしてください"));
+            test::expectOkRefused(
+                d, boxes,
+                QStringLiteral(
+                    "入力値エラー|3 行目の幅が小さすぎです\n0 よりも大きくしてください"));
             list.commitCellText(2, 2, QStringLiteral("420"));
-            expectRefusal(d, boxes, QStringLiteral("3 行目\n名前が重複しています"));
+            test::expectOkRefused(d, boxes,
+                                  QStringLiteral("入力値エラー|3 行目\n名前が重複しています"));
             QCOMPARE(list.getSelectedRow(), 2);
             list.commitCellText(2, 0, QStringLiteral("A3横"));
             QVERIFY(click(d, IDOK));
@@ -172,18 +146,14 @@ private slots:
             QCOMPARE(initOf(d).currentText(), QStringLiteral("A1横"));
             list.selectRow(0);
             QVERIFY(click(d, Insert));
-            QCOMPARE(items(initOf(d)), QStringList({"新サイズ", "A0", "A1横", "A3"}));
+            QCOMPARE(itemTexts(initOf(d)), QStringList({"新サイズ", "A0", "A1横", "A3"}));
             QCOMPARE(initOf(d).currentText(), QStringLiteral("A1横"));
             list.selectRow(2);
             QVERIFY(click(d, Delete));
             QCOMPARE(initOf(d).currentIndex(), -1);
             // The stored initial paper is gone: refused without a caption.
-            QVERIFY(click(d, IDOK));
-            QCOMPARE(boxes.count(), std::size_t(1));
-            QCOMPARE(boxes.last().text,
-                     QStringLiteral("初期値指定した用紙サイズデータがありません"));
-            QCOMPARE(boxes.last().caption, QString());
-            QVERIFY(!d.isEnded());
+            test::expectOkRefused(d, boxes,
+                                  QStringLiteral("|初期値指定した用紙サイズデータがありません"));
             initOf(d).setCurrentIndex(2);
             QVERIFY(click(d, IDOK));
         });
@@ -215,17 +185,15 @@ private slots:
         drivers.add([](CKsDialog& d) {
             listOf(d).setColumnWidth(0, 150);
             QVERIFY(click(d, 7500));
-            click(d, IDCANCEL);
+            test::pressCancel(d);
         });
         drivers.add([&](CKsDialog& d) {
             reopened = listOf(d).columnWidth(0);
-            click(d, IDCANCEL);
+            test::pressCancel(d);
         });
         ui::config::doPaperSizeDlg(setting, {});
-        core::Application::getInstance()->placements().sync();
-        QSettings saved(host.path(QStringLiteral("placements.ini")), QSettings::IniFormat);
-        QCOMPARE(saved.value(QStringLiteral("SystemPaperSizeDlg/head0")).toInt(), 150);
-        QCOMPARE(saved.value(QStringLiteral("SystemPaperSizeDlg/head2")).toInt(), 100);
+        QCOMPARE(host.savedPlacement(QStringLiteral("SystemPaperSizeDlg/head0")).toInt(), 150);
+        QCOMPARE(host.savedPlacement(QStringLiteral("SystemPaperSizeDlg/head2")).toInt(), 100);
         ui::config::doPaperSizeDlg(setting, {});
         QCOMPARE(reopened, 150);
         QCOMPARE(host.helpTopics(), QStringList{QStringLiteral("DLG_HLP_SYS_PAPER")});

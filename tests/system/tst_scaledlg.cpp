@@ -9,30 +9,24 @@
 #include "types/KsScale.h"
 
 #include <QLineEdit>
-#include <QSettings>
 #include <QTabBar>
 #include <QTest>
 
 using namespace kesto;
 using namespace kesto::ui::framework;
 using kesto::test::click;
+using kesto::test::columnTexts;
 using kesto::test::isEnabled;
 using kesto::test::isShown;
+using kesto::test::listOf;
+using ui::config::doSystemScaleDlg;
 using ui::control::CKsListCtrl;
 using ui::setting::CSystemScaleSetting;
 
 namespace {
 
-enum {
-    Tab = 7071,
-    List = 7062,
-    Add = 7501,
-    Insert = 7698,
-    Delete = 7502,
-    Reset = 7704,
-    Register = 13000,
-    Help = 7500
-};
+constexpr int Tab = 7071, Add = 7501, Insert = 7698, Delete = 7502, Reset = 7704, Register = 13000,
+              Help = 7500;
 
 CSystemScaleSetting scales(std::initializer_list<std::pair<double, double>> values)
 {
@@ -42,11 +36,6 @@ CSystemScaleSetting scales(std::initializer_list<std::pair<double, double>> valu
     CSystemScaleSetting setting;
     setting.setSystemScales(list);
     return setting;
-}
-
-CKsListCtrl& listOf(CKsDialog& d)
-{
-    return *d.dlgItem<CKsListCtrl>(List);
 }
 
 QTabBar& tabOf(CKsDialog& d)
@@ -59,14 +48,6 @@ QStringList names(const CSystemScaleSetting& setting)
     QStringList out;
     for (const auto& s : setting.getSystemScales())
         out << QString::fromStdWString(s.name);
-    return out;
-}
-
-QStringList column(CKsListCtrl& list, int c)
-{
-    QStringList out;
-    for (int r = 0; r < list.getRowCount(); ++r)
-        out << list.getCellText(r, c);
     return out;
 }
 
@@ -96,63 +77,48 @@ private slots:
             QCOMPARE(tabOf(d).count(), 1);
             QCOMPARE(tabOf(d).tabText(0), QStringLiteral("システム"));
             CKsListCtrl& list = listOf(d);
-            QCOMPARE(list.model()->headerData(0, Qt::Horizontal).toString(),
-                     QStringLiteral("名称"));
-            QCOMPARE(list.model()->headerData(1, Qt::Horizontal).toString(),
-                     QStringLiteral("分子"));
-            QCOMPARE(list.model()->headerData(2, Qt::Horizontal).toString(),
-                     QStringLiteral("分母"));
-            QCOMPARE(column(list, 0), QStringList({"1/100", "1/200"}));
-            QVERIFY(isEnabled(d, Add));
+            QCOMPARE(test::headerTexts(list), QStringList({"名称", "分子", "分母"}));
+            QCOMPARE(columnTexts(list, 0), QStringList({"1/100", "1/200"}));
             QVERIFY(isShown(d, Insert) && !isEnabled(d, Insert));
-            QVERIFY(isShown(d, Delete) && !isEnabled(d, Delete));
-            QVERIFY(!isShown(d, Register));
-            QVERIFY(isShown(d, Reset));
+            QVERIFY(!isShown(d, Register) && isShown(d, Reset));
             list.selectRow(1);
             QVERIFY(isEnabled(d, Insert) && isEnabled(d, Delete));
-            click(d, IDCANCEL);
+            test::pressCancel(d);
         });
-        QVERIFY(!ui::config::doSystemScaleDlg(setting, CSystemScaleSetting::makeDefault()));
+        QVERIFY(!doSystemScaleDlg(setting, CSystemScaleSetting::makeDefault()));
     }
 
-    void addedScaleIsEditedNamedAndStoredOnOk()
+    void editedScalesAreNamedAfterTheirValuesAndStoredOnOk()
     {
         test::HostFixture host;
         CSystemScaleSetting setting = scales({{1, 100}});
         ScopedModalDrivers drivers([](CKsDialog& d) {
             CKsListCtrl& list = listOf(d);
             QVERIFY(click(d, Add));
-            QCOMPARE(list.getRowCount(), 2);
             QCOMPARE(list.getSelectedRow(), 1);
-            QCOMPARE(column(list, 0).last(), QStringLiteral("1/1"));
-            QVERIFY(list.commitCellText(1, 2, QStringLiteral("2.5")));
-            QCOMPARE(list.getCellText(1, 2), QStringLiteral("2.5"));
-            QCOMPARE(list.getCellText(1, 0), QStringLiteral("1/2.5"));
-            QVERIFY(list.commitCellText(1, 1, QStringLiteral("３")));
+            QCOMPARE(list.getCellText(1, 0), QStringLiteral("1/1"));
+            QVERIFY(list.commitCellText(1, 2, QStringLiteral("1.23456789")));
+            QCOMPARE(list.getCellText(1, 2), QStringLiteral("1.234568"));
+            QCOMPARE(list.getCellText(1, 0), QStringLiteral("1/1.234568"));
+            QVERIFY(list.commitCellText(1, 1, QStringLiteral("３.0000")));
             QCOMPARE(list.getCellText(1, 1), QStringLiteral("3"));
-            QVERIFY(click(d, IDOK));
+            QVERIFY(!list.commitCellText(0, 0, QStringLiteral("好きな名前")));
+            // Typed in place, as a user does.
+            const QModelIndex cell = list.model()->index(0, 2);
+            list.setCurrentIndex(cell);
+            list.edit(cell);
+            auto* editor = list.findChild<QLineEdit*>();
+            QVERIFY(editor);
+            editor->selectAll();
+            QTest::keyClicks(editor, QStringLiteral("250"));
+            QTest::keyClick(editor, Qt::Key_Return);
+            QTRY_COMPARE(list.getCellText(0, 0), QStringLiteral("1/250"));
+            test::pressOk(d);
         });
-        QVERIFY(ui::config::doSystemScaleDlg(setting, CSystemScaleSetting::makeDefault()));
-        QCOMPARE(names(setting), QStringList({"1/100", "3/2.5"}));
+        QVERIFY(doSystemScaleDlg(setting, CSystemScaleSetting::makeDefault()));
+        QCOMPARE(names(setting), QStringList({"1/250", "3/1.234568"}));
         QCOMPARE(setting.getSystemScales()[1].numerator, 3.0);
-        QCOMPARE(setting.getSystemScales()[1].denominator, 2.5);
-    }
-
-    void typedValuesAreStoredWithSixDecimalsAndShownAsStored()
-    {
-        test::HostFixture host;
-        CSystemScaleSetting setting = scales({{1, 100}});
-        ScopedModalDrivers drivers([](CKsDialog& d) {
-            CKsListCtrl& list = listOf(d);
-            list.commitCellText(0, 2, QStringLiteral("1.23456789"));
-            QCOMPARE(list.getCellText(0, 2), QStringLiteral("1.234568"));
-            list.commitCellText(0, 1, QStringLiteral("2.0000000"));
-            QCOMPARE(list.getCellText(0, 1), QStringLiteral("2"));
-            click(d, IDOK);
-        });
-        QVERIFY(ui::config::doSystemScaleDlg(setting, {}));
-        QCOMPARE(setting.getSystemScales()[0].denominator, 1.234568);
-        QCOMPARE(names(setting), QStringList({"2/1.234568"}));
+        QCOMPARE(setting.getSystemScales()[1].denominator, 1.234568);
     }
 
     void valuesThatAreNotAboveZeroAreRefusedWithAMessage()
@@ -164,53 +130,19 @@ private slots:
             CKsListCtrl& list = listOf(d);
             list.commitCellText(1, 2, QStringLiteral("abc"));
             QCOMPARE(list.getCellText(1, 2), QStringLiteral("200"));
-            QCOMPARE(boxes.count(), std::size_t(1));
-            QCOMPARE(boxes.last().text,
-                     QStringLiteral("2 行目の分母には 0 より大きい数値を入力してください。"));
-            QCOMPARE(boxes.last().caption, QStringLiteral("入力値エラー"));
+            QCOMPARE(test::lastBox(boxes),
+                     QStringLiteral("入力値エラー|2 行目の分母には 0 より大きい数値を入力して"
+                                    "ください。"));
             list.commitCellText(0, 1, QStringLiteral("0.0000004")); // rounds to zero
-            QCOMPARE(boxes.last().text,
-                     QStringLiteral("1 行目の分子には 0 より大きい数値を入力してください。"));
+            QCOMPARE(test::lastBox(boxes),
+                     QStringLiteral("入力値エラー|1 行目の分子には 0 より大きい数値を入力して"
+                                    "ください。"));
             QCOMPARE(list.getCellText(0, 1), QStringLiteral("1"));
-            list.commitCellText(0, 1, QStringLiteral("-5"));
-            QCOMPARE(boxes.count(), std::size_t(3));
-            click(d, IDOK);
+            QCOMPARE(boxes.count(), std::size_t(2));
+            test::pressOk(d);
         });
-        QVERIFY(ui::config::doSystemScaleDlg(setting, {}));
+        QVERIFY(doSystemScaleDlg(setting, {}));
         QCOMPARE(names(setting), QStringList({"1/100", "1/200"}));
-    }
-
-    void theNameColumnIsNotEditable()
-    {
-        test::HostFixture host;
-        CSystemScaleSetting setting = scales({{1, 100}});
-        ScopedModalDrivers drivers([](CKsDialog& d) {
-            QVERIFY(!listOf(d).commitCellText(0, 0, QStringLiteral("好きな名前")));
-            click(d, IDOK);
-        });
-        QVERIFY(ui::config::doSystemScaleDlg(setting, {}));
-        QCOMPARE(names(setting), QStringList({"1/100"}));
-    }
-
-    void aCellIsEditedInPlaceWithTheKeyboard()
-    {
-        test::HostFixture host;
-        CSystemScaleSetting setting = scales({{1, 100}});
-        ScopedModalDrivers drivers([](CKsDialog& d) {
-            CKsListCtrl& list = listOf(d);
-            const QModelIndex cell = list.model()->index(0, 2);
-            list.setCurrentIndex(cell);
-            list.edit(cell);
-            auto* editor = list.findChild<QLineEdit*>();
-            QVERIFY(editor);
-            editor->selectAll();
-            QTest::keyClicks(editor, QStringLiteral("250"));
-            QTest::keyClick(editor, Qt::Key_Return);
-            QTRY_COMPARE(list.getCellText(0, 0), QStringLiteral("1/250"));
-            click(d, IDOK);
-        });
-        QVERIFY(ui::config::doSystemScaleDlg(setting, {}));
-        QCOMPARE(names(setting), QStringList({"1/250"}));
     }
 
     void insertAndDeleteActOnTheSelectedRow()
@@ -221,17 +153,17 @@ private slots:
             CKsListCtrl& list = listOf(d);
             list.selectRow(1);
             QVERIFY(click(d, Insert));
-            QCOMPARE(column(list, 0), QStringList({"1/10", "1/1", "1/20", "1/50"}));
+            QCOMPARE(columnTexts(list, 0), QStringList({"1/10", "1/1", "1/20", "1/50"}));
             QCOMPARE(list.getSelectedRow(), 1);
             list.selectRow(3);
             QVERIFY(click(d, Delete));
-            QCOMPARE(column(list, 0), QStringList({"1/10", "1/1", "1/20"}));
+            QCOMPARE(columnTexts(list, 0), QStringList({"1/10", "1/1", "1/20"}));
             QCOMPARE(list.getSelectedRow(), 2);
             list.clearSelection();
             QVERIFY(!click(d, Delete));
-            click(d, IDOK);
+            test::pressOk(d);
         });
-        QVERIFY(ui::config::doSystemScaleDlg(setting, {}));
+        QVERIFY(doSystemScaleDlg(setting, {}));
         QCOMPARE(names(setting), QStringList({"1/10", "1/1", "1/20"}));
     }
 
@@ -243,30 +175,17 @@ private slots:
         ScopedModalDrivers drivers;
         drivers.add([](CKsDialog& d) {
             QVERIFY(click(d, Reset));
-            QCOMPARE(column(listOf(d), 0), QStringList({"1/1", "1/1000"}));
-            click(d, IDCANCEL);
+            QCOMPARE(columnTexts(listOf(d), 0), QStringList({"1/1", "1/1000"}));
+            QTest::keyClick(&d, Qt::Key_Escape);
         });
         drivers.add([](CKsDialog& d) {
             QVERIFY(click(d, Reset));
-            click(d, IDOK);
+            test::pressOk(d);
         });
-        QVERIFY(!ui::config::doSystemScaleDlg(setting, defaults));
+        QVERIFY(!doSystemScaleDlg(setting, defaults));
         QCOMPARE(names(setting), QStringList({"1/100"}));
-        QVERIFY(ui::config::doSystemScaleDlg(setting, defaults));
+        QVERIFY(doSystemScaleDlg(setting, defaults));
         QVERIFY(setting.isSame(defaults));
-    }
-
-    void cancelDiscardsEveryEdit()
-    {
-        test::HostFixture host;
-        CSystemScaleSetting setting = scales({{1, 100}});
-        ScopedModalDrivers drivers([](CKsDialog& d) {
-            click(d, Add);
-            listOf(d).commitCellText(0, 2, QStringLiteral("5"));
-            QTest::keyClick(&d, Qt::Key_Escape);
-        });
-        QVERIFY(!ui::config::doSystemScaleDlg(setting, {}));
-        QCOMPARE(names(setting), QStringList({"1/100"}));
     }
 
     void drawingTabListsTheDrawingsScalesAndRegistersNewOnes()
@@ -280,26 +199,23 @@ private slots:
             QCOMPARE(tabOf(d).tabText(1), QStringLiteral("図面内"));
             tabOf(d).setCurrentIndex(1);
             CKsListCtrl& list = listOf(d);
-            QCOMPARE(column(list, 0), QStringList({"平面 1/100", "1/600"}));
-            QVERIFY(!isEnabled(d, Add));
-            QVERIFY(!isEnabled(d, Insert) && !isEnabled(d, Delete));
-            QVERIFY(isShown(d, Register));
+            QCOMPARE(columnTexts(list, 0), QStringList({"平面 1/100", "1/600"}));
+            QVERIFY(!isEnabled(d, Add) && isShown(d, Register));
             QVERIFY(!list.commitCellText(0, 2, QStringLiteral("5"))); // read only
             list.selectRow(0);
             QVERIFY(click(d, Register)); // same values, other name
-            QCOMPARE(boxes.count(), std::size_t(1));
-            QCOMPARE(boxes.last().text,
-                     QStringLiteral("既に同じスケールがシステム設定に存在しています。"));
-            QCOMPARE(boxes.last().caption, QStringLiteral("入力値エラー"));
+            QCOMPARE(
+                test::lastBox(boxes),
+                QStringLiteral("入力値エラー|既に同じスケールがシステム設定に存在しています。"));
             list.selectRow(1);
             QVERIFY(click(d, Register));
             QCOMPARE(boxes.count(), std::size_t(1));
             tabOf(d).setCurrentIndex(0);
-            QCOMPARE(column(listOf(d), 0), QStringList({"1/100", "1/600"}));
+            QCOMPARE(columnTexts(listOf(d), 0), QStringList({"1/100", "1/600"}));
             QVERIFY(!isShown(d, Register));
-            click(d, IDOK);
+            test::pressOk(d);
         });
-        QVERIFY(ui::config::doSystemScaleDlg(setting, {}));
+        QVERIFY(doSystemScaleDlg(setting, {}));
         QCOMPARE(names(setting), QStringList({"1/100", "1/600"}));
         QCOMPARE(drawing.db.countElements(L"SCALE"), std::size_t(2));
     }
@@ -311,18 +227,16 @@ private slots:
         CSystemScaleSetting setting = scales({{1, 100}});
         ScopedModalDrivers drivers;
         drivers.add([](CKsDialog& d) {
-            QVERIFY(!isShown(d, Insert));
-            QVERIFY(!isShown(d, Delete));
-            QVERIFY(!isShown(d, Reset));
+            QVERIFY(!isShown(d, Insert) && !isShown(d, Delete) && !isShown(d, Reset));
             tabOf(d).setCurrentIndex(1);
             QVERIFY(!isShown(d, Register));
             tabOf(d).setCurrentIndex(0);
-            QVERIFY(click(d, IDOK));
+            test::pressOk(d);
         });
         drivers.add([](CKsDialog& d) {
             QVERIFY(click(d, Add));
             listOf(d).commitCellText(1, 2, QStringLiteral("300"));
-            QVERIFY(click(d, IDOK));
+            test::pressOk(d);
         });
         QVERIFY(!ui::config::doSystemScaleDlgAddMode(setting));
         QCOMPARE(names(setting), QStringList({"1/100"}));
@@ -342,15 +256,13 @@ private slots:
             first = d.size();
             QCOMPARE(d.minimumSize(), first); // cannot be made smaller than it opened
             d.resize(first + QSize(40, 30));
-            click(d, IDCANCEL);
+            test::pressCancel(d);
         });
         drivers.add([&](CKsDialog& d) { reopened = d.size(); });
-        ui::config::doSystemScaleDlg(setting, {});
+        doSystemScaleDlg(setting, {});
         QCOMPARE(host.helpTopics(), QStringList{QStringLiteral("DLG_HLP_SYS_SCALE")});
-        core::Application::getInstance()->placements().sync();
-        QSettings saved(host.path(QStringLiteral("placements.ini")), QSettings::IniFormat);
-        QVERIFY(!saved.value(QStringLiteral("SystemScaleDlg/geometry")).toByteArray().isEmpty());
-        ui::config::doSystemScaleDlg(setting, {});
+        QVERIFY(!host.savedPlacement(QStringLiteral("SystemScaleDlg/geometry")).isNull());
+        doSystemScaleDlg(setting, {});
         QCOMPARE(reopened, first + QSize(40, 30));
     }
 };

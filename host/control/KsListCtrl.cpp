@@ -145,6 +145,23 @@ QString CKsListCtrl::getCellText(int row, int column) const
     return m_model->row(row).text(column);
 }
 
+QStringList CKsListCtrl::getRowTexts(int row) const
+{
+    QStringList texts;
+    for (int column = 0; column < getColumnCount(); ++column)
+        texts << getCellText(row, column);
+    return texts;
+}
+
+std::vector<QStringList> CKsListCtrl::getAllRowTexts() const
+{
+    std::vector<QStringList> rows;
+    rows.reserve(static_cast<std::size_t>(getRowCount()));
+    for (int row = 0; row < getRowCount(); ++row)
+        rows.push_back(getRowTexts(row));
+    return rows;
+}
+
 void CKsListCtrl::setCellText(int row, int column, const QString& text)
 {
     m_model->setCellText(row, column, text);

@@ -50,6 +50,9 @@ public:
 
     // Cells
     QString getCellText(int row, int column) const;
+    // The texts of a row's cells, in column order.
+    QStringList getRowTexts(int row) const;
+    std::vector<QStringList> getAllRowTexts() const;
     void setCellText(int row, int column, const QString& text);
     QRgb getCellColor(int row, int column) const;
     void setCellColor(int row, int column, QRgb color);

@@ -24,4 +24,20 @@ void selectRowName(QComboBox& combo, const QString& name)
     combo.setCurrentIndex(combo.findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive));
 }
 
+void insertNamedRow(control::CKsListCtrl& list, QComboBox& names, int nameColumn, int at,
+                    control::SListRow row)
+{
+    list.insertRow(at, std::move(row));
+    list.selectRow(at);
+    fillRowNameCombo(names, list, nameColumn);
+}
+
+bool removeSelectedNamedRow(control::CKsListCtrl& list, QComboBox& names, int nameColumn)
+{
+    if (!list.removeRowAndSelectNext(list.getSelectedRow()))
+        return false;
+    fillRowNameCombo(names, list, nameColumn);
+    return true;
+}
+
 } // namespace kesto::ui::config

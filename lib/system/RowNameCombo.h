@@ -6,7 +6,8 @@ class QComboBox;
 
 namespace kesto::ui::control {
 class CKsListCtrl;
-}
+struct SListRow;
+} // namespace kesto::ui::control
 
 namespace kesto::ui::config {
 
@@ -16,5 +17,12 @@ namespace kesto::ui::config {
 void fillRowNameCombo(QComboBox& combo, const control::CKsListCtrl& list, int nameColumn);
 // Chooses the first row of that name; no choice when no row has it.
 void selectRowName(QComboBox& combo, const QString& name);
+
+// Inserts a row before at (appends when at is the row count), selects it and refreshes the
+// names.
+void insertNamedRow(control::CKsListCtrl& list, QComboBox& names, int nameColumn, int at,
+                    control::SListRow row);
+// Removes the selected row, selects the next and refreshes the names; false without a selection.
+bool removeSelectedNamedRow(control::CKsListCtrl& list, QComboBox& names, int nameColumn);
 
 } // namespace kesto::ui::config

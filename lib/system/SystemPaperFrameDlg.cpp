@@ -186,18 +186,13 @@ void CSystemPaperFrameDlg::refreshPicture()
         m_picture->setFrame(std::nullopt);
         return;
     }
-    QStringList texts;
-    for (int column = 0; column < m_list->getColumnCount(); ++column)
-        texts << m_list->getCellText(row, column);
-    m_picture->setFrame(rules::frameOfRow(texts, m_yes));
+    m_picture->setFrame(rules::frameOfRow(m_list->getRowTexts(row), m_yes));
 }
 
 void CSystemPaperFrameDlg::addNewFrame(int at)
 {
-    m_list->insertRow(at,
-                      newRow(rules::newPaperFrame(loadString(IDS_FRAME_NEW_NAME).toStdWString())));
-    m_list->selectRow(at);
-    fillRowNameCombo(*m_initName, *m_list, rules::ColumnName);
+    insertNamedRow(*m_list, *m_initName, rules::ColumnName, at,
+                   newRow(rules::newPaperFrame(loadString(IDS_FRAME_NEW_NAME).toStdWString())));
     refreshPicture();
 }
 
@@ -218,11 +213,8 @@ void CSystemPaperFrameDlg::OnBnClickedInsert()
 void CSystemPaperFrameDlg::OnBnClickedDelete()
 {
     guardHandler(kClass, "OnBnClickedDelete", [&] {
-        const int row = m_list->getSelectedRow();
-        if (row < 0)
+        if (!removeSelectedNamedRow(*m_list, *m_initName, rules::ColumnName))
             return;
-        m_list->removeRowAndSelectNext(row);
-        fillRowNameCombo(*m_initName, *m_list, rules::ColumnName);
         refreshButtons();
         refreshPicture();
     });
@@ -280,22 +272,9 @@ void CSystemPaperFrameDlg::onDimensionChanged(int row, int dimension, const QStr
                           framework::MB_OK | framework::MB_ICONWARNING);
 }
 
-std::vector<QStringList> CSystemPaperFrameDlg::rowTexts() const
-{
-    std::vector<QStringList> rows;
-    rows.reserve(static_cast<std::size_t>(m_list->getRowCount()));
-    for (int row = 0; row < m_list->getRowCount(); ++row) {
-        QStringList texts;
-        for (int column = 0; column < m_list->getColumnCount(); ++column)
-            texts << m_list->getCellText(row, column);
-        rows.push_back(texts);
-    }
-    return rows;
-}
-
 bool CSystemPaperFrameDlg::reportProblem()
 {
-    const SProblem problem = rules::check(rowTexts());
+    const SProblem problem = rules::check(m_list->getAllRowTexts());
     if (!problem)
         return false;
     QString text;
@@ -326,7 +305,7 @@ void CSystemPaperFrameDlg::OnOK()
         if (reportProblem())
             return;
         std::vector<setting::SPaperFrame> frames;
-        for (const QStringList& texts : rowTexts())
+        for (const QStringList& texts : m_list->getAllRowTexts())
             frames.push_back(rules::frameOfRow(texts, m_yes));
         m_setting.setPaperFrames(frames);
         storeLookControls();

@@ -57,7 +57,6 @@ private:
     void refreshPicture();
     control::SListRow newRow(const setting::SPaperFrame& frame);
     void addNewFrame(int at);
-    std::vector<QStringList> rowTexts() const;
     bool reportProblem();
 
     void OnBnClickedAdd();

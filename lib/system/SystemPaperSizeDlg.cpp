@@ -115,9 +115,8 @@ void CSystemPaperSizeDlg::refreshButtons()
 void CSystemPaperSizeDlg::OnBnClickedAdd()
 {
     guardHandler(kClass, "OnBnClickedAdd", [&] {
-        const int row = m_list->addRow(newRow(rules::newPaperSize()));
-        m_list->selectRow(row);
-        fillRowNameCombo(*m_initName, *m_list, rules::ColumnName);
+        insertNamedRow(*m_list, *m_initName, rules::ColumnName, m_list->getRowCount(),
+                       newRow(rules::newPaperSize()));
     });
 }
 
@@ -125,23 +124,17 @@ void CSystemPaperSizeDlg::OnBnClickedInsert()
 {
     guardHandler(kClass, "OnBnClickedInsert", [&] {
         const int row = m_list->getSelectedRow();
-        if (row < 0)
-            return;
-        m_list->insertRow(row, newRow(rules::newPaperSize()));
-        m_list->selectRow(row);
-        fillRowNameCombo(*m_initName, *m_list, rules::ColumnName);
+        if (row >= 0)
+            insertNamedRow(*m_list, *m_initName, rules::ColumnName, row,
+                           newRow(rules::newPaperSize()));
     });
 }
 
 void CSystemPaperSizeDlg::OnBnClickedDelete()
 {
     guardHandler(kClass, "OnBnClickedDelete", [&] {
-        const int row = m_list->getSelectedRow();
-        if (row < 0)
-            return;
-        m_list->removeRowAndSelectNext(row);
-        fillRowNameCombo(*m_initName, *m_list, rules::ColumnName);
-        refreshButtons();
+        if (removeSelectedNamedRow(*m_list, *m_initName, rules::ColumnName))
+            refreshButtons();
     });
 }
 
@@ -178,23 +171,10 @@ void CSystemPaperSizeDlg::onCellChanged(int row, int column, const QString& text
     });
 }
 
-std::vector<QStringList> CSystemPaperSizeDlg::rowTexts() const
-{
-    std::vector<QStringList> rows;
-    rows.reserve(static_cast<std::size_t>(m_list->getRowCount()));
-    for (int row = 0; row < m_list->getRowCount(); ++row) {
-        QStringList texts;
-        for (int column = 0; column < m_list->getColumnCount(); ++column)
-            texts << m_list->getCellText(row, column);
-        rows.push_back(texts);
-    }
-    return rows;
-}
-
 // The first failed check is shown on its row; true when there was one.
 bool CSystemPaperSizeDlg::reportProblem()
 {
-    const SProblem problem = rules::check(rowTexts());
+    const SProblem problem = rules::check(m_list->getAllRowTexts());
     if (!problem)
         return false;
     m_list->selectRow(problem.row);
@@ -220,7 +200,7 @@ void CSystemPaperSizeDlg::OnOK()
         if (reportProblem())
             return;
         std::vector<setting::SPaperSize> sizes;
-        for (const QStringList& texts : rowTexts())
+        for (const QStringList& texts : m_list->getAllRowTexts())
             sizes.push_back(rules::sizeOfRow(texts));
         m_setting.setPaperSize(sizes);
         if (m_initName->currentIndex() >= 0)

@@ -37,7 +37,6 @@ private:
     void fillList();
     void refreshButtons();
     control::SListRow newRow(const setting::SPaperSize& size);
-    std::vector<QStringList> rowTexts() const;
     bool reportProblem();
     void saveColumnWidths();
 

@@ -9,6 +9,7 @@
 #include "res/SystemResource.h"
 #include "setting/SystemColorSetting.h"
 #include "system/LineWidthRules.h"
+#include "system/TableTabs.h"
 
 #include <QComboBox>
 #include <QHeaderView>
@@ -75,10 +76,7 @@ bool CLineWidthDlg::OnInitDialog()
         loadDrawingWidths();
         equalizeWidths({IDC_ADD, IDC_INSERT, IDC_DELETE, IDC_MOVE_UP, IDC_MOVE_DOWN, IDC_RESET,
                         IDC_REGISTER_SYSTEM});
-        m_tab->setExpanding(false);
-        m_tab->addTab(loadString(IDS_TAB_SYSTEM));
-        if (m_db)
-            m_tab->addTab(loadString(IDS_TAB_DRAWING));
+        setupTableTabs(*m_tab, m_db != nullptr);
         setupList();
         connect(m_tab, &QTabBar::currentChanged, this, [this] { OnTcnSelchangeTab(); });
         onClicked(IDC_ADD, [this] { OnBnClickedAdd(); });

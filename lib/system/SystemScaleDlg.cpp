@@ -7,6 +7,7 @@
 #include "framework/MessageBox.h"
 #include "res/SystemResource.h"
 #include "system/SystemScaleRules.h"
+#include "system/TableTabs.h"
 #include "types/KsScale.h"
 
 #include <QPushButton>
@@ -68,10 +69,7 @@ bool CSystemScaleDlg::OnInitDialog()
         m_scales = m_setting.getSystemScales();
         m_drawingScales = scalesOfCurrentDrawing(m_hasDrawing);
         equalizeWidths({IDC_ADD, IDC_INSERT, IDC_DELETE, IDC_RESET, IDC_REGISTER_SYSTEM});
-        m_tab->setExpanding(false);
-        m_tab->addTab(loadString(IDS_TAB_SYSTEM));
-        if (m_hasDrawing)
-            m_tab->addTab(loadString(IDS_TAB_DRAWING));
+        setupTableTabs(*m_tab, m_hasDrawing);
         setupList();
         connect(m_tab, &QTabBar::currentChanged, this, [this] { OnTcnSelchangeTab(); });
         onClicked(IDC_ADD, [this] { OnBnClickedAdd(); });

@@ -1,7 +1,7 @@
-#include "CommandActions.h"
-#include "Screenshots.h"
-#include "Session.h"
-#include "WorkbenchWindow.h"
+#include "session/Session.h"
+#include "window/CommandActions.h"
+#include "window/Screenshots.h"
+#include "window/WorkbenchWindow.h"
 
 #include "core/Application.h"
 #include "tooltip/DlgToolTipManager.h"

@@ -2,7 +2,7 @@
 // reference over a million figures, and what a figure costs in memory.
 #include "BenchMain.h"
 
-#include "FigureListModel.h"
+#include "picking/FigureListModel.h"
 
 #include "config/DrawEntries.h"
 #include "core/Application.h"

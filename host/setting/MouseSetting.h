@@ -1,6 +1,6 @@
 #pragma once
 
-#include "control/ContextMenuData.h"
+#include "setting/ContextMenuData.h"
 #include "setting/SettingBase.h"
 
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "control/ContextMenuData.h"
 #include "core/IMainFrame.h"
+#include "setting/ContextMenuData.h"
 #include "setting/MouseCommands.h"
 #include "setting/MouseSetting.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "CommandActions.h"
-#include "Session.h"
+#include "session/Session.h"
+#include "window/CommandActions.h"
 
 #include "core/Application.h"
 #include "core/SystemConfig.h"

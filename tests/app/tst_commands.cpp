@@ -3,9 +3,9 @@
 #include "WorkbenchFixture.h"
 #include "support/TestSupport.h"
 
-#include "CommandActions.h"
-#include "Screenshots.h"
-#include "WorkbenchWindow.h"
+#include "window/CommandActions.h"
+#include "window/Screenshots.h"
+#include "window/WorkbenchWindow.h"
 
 #include "command/CommandTable.h"
 #include "core/Application.h"

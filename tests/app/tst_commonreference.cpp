@@ -3,12 +3,13 @@
 // the drawings give figures their look.
 #include "support/TestSupport.h"
 
-#include "CommonReference.h"
-#include "DrawingFile.h"
-#include "FigureListModel.h"
-#include "FigurePickDlg.h"
-#include "Session.h"
-#include "WorkbenchResources.h"
+#include "drawing/DrawingFile.h"
+#include "drawing/XmlDrawing.h"
+#include "picking/CommonReference.h"
+#include "picking/FigureListModel.h"
+#include "picking/FigurePickDlg.h"
+#include "session/Session.h"
+#include "window/WorkbenchResources.h"
 
 #include "db/KsLayerManager.h"
 #include "framework/ModalHook.h"

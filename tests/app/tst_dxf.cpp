@@ -3,10 +3,10 @@
 // files, which are refused with a reason.
 #include "support/TestSupport.h"
 
-#include "DrawingFile.h"
-#include "DxfDrawing.h"
-#include "DxfText.h"
-#include "LayerViews.h"
+#include "drawing/DrawingFile.h"
+#include "dxf/DxfReader.h"
+#include "dxf/DxfText.h"
+#include "view/LayerViews.h"
 
 #include "db/KsLayerManager.h"
 #include "element/KsViewPort.h"

@@ -3,9 +3,9 @@
 #include "WorkbenchFixture.h"
 #include "support/TestSupport.h"
 
-#include "DrawingFile.h"
-#include "Screenshots.h"
-#include "Session.h"
+#include "drawing/DrawingFile.h"
+#include "session/Session.h"
+#include "window/Screenshots.h"
 
 #include "control/KsListCtrl.h"
 #include "element/KsCrossSectionView.h"

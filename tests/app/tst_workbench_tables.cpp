@@ -3,7 +3,7 @@
 #include "WorkbenchFixture.h"
 #include "support/TestSupport.h"
 
-#include "DrawingFile.h"
+#include "drawing/DrawingFile.h"
 
 #include "control/KsListCtrl.h"
 #include "framework/ModalHook.h"

@@ -2,7 +2,7 @@
 #include "support/TestSupport.h"
 
 #include "command/CommandTable.h"
-#include "control/ContextMenuData.h"
+#include "setting/ContextMenuData.h"
 #include "setting/MouseCommands.h"
 #include "setting/MouseSetting.h"
 

@@ -1,4 +1,4 @@
-#include "FigureListModel.h"
+#include "picking/FigureListModel.h"
 
 #include "control/ComboSamples.h"
 #include "core/Application.h"

@@ -1,6 +1,6 @@
-#include "Screenshots.h"
+#include "window/Screenshots.h"
 
-#include "Session.h"
+#include "session/Session.h"
 
 #include "framework/KsDialog.h"
 #include "framework/ModalHook.h"

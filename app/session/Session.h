@@ -1,8 +1,8 @@
 #pragma once
 
-#include "LayerViews.h"
-#include "SettingsStore.h"
-#include "Topic.h"
+#include "session/SettingsStore.h"
+#include "topics/Topic.h"
+#include "view/LayerViews.h"
 
 #include "db/MemoryDataBase.h"
 

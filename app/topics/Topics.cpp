@@ -1,4 +1,4 @@
-#include "Topic.h"
+#include "topics/Topic.h"
 
 #include "setting/LineEndSetting.h"
 #include "setting/SystemColorSetting.h"

@@ -1,4 +1,4 @@
-#include "WorkbenchResources.h"
+#include "window/WorkbenchResources.h"
 
 #include "framework/KsDialog.h"
 

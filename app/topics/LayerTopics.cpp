@@ -1,10 +1,11 @@
-#include "Session.h"
-#include "Topic.h"
+#include "session/Session.h"
+#include "topics/Topic.h"
 
 #include "control/KsListCtrl.h"
 #include "element/KsCrossSectionView.h"
 #include "element/KsViewPort.h"
 #include "framework/KsDialog.h"
+#include "res/Resource.h"
 
 #include <QAbstractButton>
 
@@ -12,7 +13,7 @@ namespace kesto::workbench {
 
 namespace {
 
-enum { kList = 7062, kOn = 1039, kOff = 1040, kKeep = 1044 };
+using namespace ui::config::res;
 
 void press(ui::framework::CKsDialog& dialog, int id)
 {
@@ -22,7 +23,7 @@ void press(ui::framework::CKsDialog& dialog, int id)
 
 void selectRows(ui::framework::CKsDialog& dialog, std::vector<int> rows)
 {
-    if (auto* list = dialog.dlgItem<ui::control::CKsListCtrl>(kList)) {
+    if (auto* list = dialog.dlgItem<ui::control::CKsListCtrl>(IDC_LIST)) {
         std::erase_if(rows, [&](int row) { return row >= list->getRowCount(); });
         list->setRowsSelected(rows);
     }
@@ -32,16 +33,16 @@ void selectRows(ui::framework::CKsDialog& dialog, std::vector<int> rows)
 void setSomeFlags(ui::framework::CKsDialog& dialog)
 {
     selectRows(dialog, {1, 2, 4});
-    press(dialog, kOff);
+    press(dialog, IDC_LAYER_OFF);
     selectRows(dialog, {0});
-    press(dialog, kOn);
+    press(dialog, IDC_LAYER_ON);
 }
 
 void keepSomeRows(ui::framework::CKsDialog& dialog)
 {
     setSomeFlags(dialog);
     selectRows(dialog, {3, 5});
-    press(dialog, kKeep);
+    press(dialog, IDC_LAYER_KEEP);
 }
 
 // The picked views of a kind, or every view of it when none is picked.

@@ -1,4 +1,4 @@
-#include "DxfModel.h"
+#include "dxf/DxfCollector.h"
 
 #include "db/MemoryDataBase.h"
 #include "element/KsViewPort.h"

@@ -1,4 +1,4 @@
-#include "DxfScan.h"
+#include "dxf/DxfScan.h"
 
 #include <QByteArrayView>
 

@@ -1,11 +1,12 @@
-#include "CommonReference.h"
-#include "FigureListModel.h"
-#include "FigurePickDlg.h"
-#include "Topic.h"
-#include "WorkbenchResources.h"
+#include "picking/CommonReference.h"
+#include "picking/FigureListModel.h"
+#include "picking/FigurePickDlg.h"
+#include "topics/Topic.h"
+#include "window/WorkbenchResources.h"
 
 #include "core/Application.h"
 #include "framework/KsDialog.h"
+#include "res/Resource.h"
 #include "types/KsFigure.h"
 
 #include <QAbstractButton>
@@ -15,9 +16,6 @@
 namespace kesto::workbench {
 
 namespace {
-
-constexpr int kCommonTemplate = 2051;
-constexpr int kReferenceButton = 7491;
 
 const IDataBase* openDrawing()
 {
@@ -44,8 +42,8 @@ int interestingRow(const CFigureListModel& model)
 void pickFromDrawing(ui::framework::CKsDialog& dialog)
 {
     static int step = 0;
-    if (dialog.getTemplateId() == kCommonTemplate) {
-        auto* button = dialog.dlgItem<QAbstractButton>(kReferenceButton);
+    if (dialog.getTemplateId() == ui::config::res::IDD_DRAW_COMMON) {
+        auto* button = dialog.dlgItem<QAbstractButton>(ui::config::res::IDC_DRAW_REFERENCE);
         const bool press = step == 0 && button && button->isEnabled();
         step = press ? 1 : 0;
         if (press)

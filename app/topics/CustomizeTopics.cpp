@@ -1,10 +1,11 @@
-#include "CommandActions.h"
-#include "Topic.h"
+#include "topics/Topic.h"
+#include "window/CommandActions.h"
 
 #include "KsSystemConfigDlg.h"
 #include "command/CommandTable.h"
 #include "core/Application.h"
 #include "framework/KsDialog.h"
+#include "res/Resource.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -31,13 +32,13 @@ ui::setting::CShortCutSetting defaultShortCuts()
 // command owns.
 void captureKeyOfAnotherCommand(ui::framework::CKsDialog& dialog)
 {
-    auto* tree = dialog.dlgItem<QTreeWidget>(8001);
+    auto* tree = dialog.dlgItem<QTreeWidget>(ui::config::res::IDC_COMMAND_TREE);
     const auto found =
         tree ? tree->findItems(QStringLiteral("線分"), Qt::MatchExactly | Qt::MatchRecursive)
              : QList<QTreeWidgetItem*>();
     if (!found.isEmpty())
         tree->setCurrentItem(found.first());
-    if (QWidget* edit = dialog.GetDlgItem(8002)) {
+    if (QWidget* edit = dialog.GetDlgItem(ui::config::res::IDC_SHORTCUT_EDIT)) {
         QKeyEvent press(QEvent::KeyPress, Qt::Key_S, Qt::ControlModifier);
         QCoreApplication::sendEvent(edit, &press);
     }
@@ -47,7 +48,7 @@ void captureKeyOfAnotherCommand(ui::framework::CKsDialog& dialog)
 std::function<void(ui::framework::CKsDialog&)> showButtonTab(int index)
 {
     return [index](ui::framework::CKsDialog& dialog) {
-        if (auto* tab = dialog.dlgItem<QTabBar>(8042))
+        if (auto* tab = dialog.dlgItem<QTabBar>(ui::config::res::IDC_BUTTON_TAB))
             tab->setCurrentIndex(index);
     };
 }

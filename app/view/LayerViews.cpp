@@ -1,4 +1,4 @@
-#include "LayerViews.h"
+#include "view/LayerViews.h"
 
 #include "KsSystemConfigDlg.h"
 #include "core/Application.h"

@@ -1,4 +1,4 @@
-#include "CommonReference.h"
+#include "picking/CommonReference.h"
 
 #include "config/DrawEntries.h"
 #include "core/Application.h"

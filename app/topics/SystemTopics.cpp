@@ -1,26 +1,26 @@
-#include "Topic.h"
+#include "topics/Topic.h"
 
 #include "KsSystemConfigDlg.h"
 #include "core/Application.h"
 #include "framework/KsDialog.h"
 
 #include "control/KsListCtrl.h"
+#include "res/Resource.h"
 
 #include <QTabBar>
 
 namespace kesto::workbench {
 
 namespace {
-constexpr int kTableTab = 7071;
 
 void showDrawingTab(ui::framework::CKsDialog& dialog)
 {
-    if (auto* tab = dialog.dlgItem<QTabBar>(kTableTab); tab && tab->count() > 1)
+    if (auto* tab = dialog.dlgItem<QTabBar>(ui::config::res::IDC_TAB); tab && tab->count() > 1)
         tab->setCurrentIndex(1);
 }
 void selectSecondRow(ui::framework::CKsDialog& dialog)
 {
-    if (auto* list = dialog.dlgItem<ui::control::CKsListCtrl>(7062);
+    if (auto* list = dialog.dlgItem<ui::control::CKsListCtrl>(ui::config::res::IDC_LIST);
         list && list->getRowCount() > 1)
         list->selectRow(1);
 }

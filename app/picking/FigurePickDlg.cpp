@@ -1,7 +1,7 @@
-#include "FigurePickDlg.h"
+#include "picking/FigurePickDlg.h"
 
-#include "FigureListModel.h"
-#include "WorkbenchResources.h"
+#include "picking/FigureListModel.h"
+#include "window/WorkbenchResources.h"
 
 #include "framework/HandlerGuard.h"
 #include "framework/Resources.h"

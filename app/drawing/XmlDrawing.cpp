@@ -1,6 +1,5 @@
-#include "DrawingFile.h"
+#include "drawing/XmlDrawing.h"
 
-#include "DxfDrawing.h"
 #include "types/KsCoordinateSystem.h"
 
 #include "types/KsFigure.h"
@@ -243,21 +242,6 @@ std::unique_ptr<CMemoryDataBase> readXmlDrawing(const QString& path, QString* er
         }
     }
     return db;
-}
-
-std::unique_ptr<CMemoryDataBase> openDrawing(const QString& path, QString* error)
-{
-    const QFileInfo info(path);
-    if (!info.isFile()) {
-        fail(error, QStringLiteral("%1: no such file").arg(path));
-        return nullptr;
-    }
-    if (info.suffix().compare(QStringLiteral("xml"), Qt::CaseInsensitive) == 0)
-        return readXmlDrawing(path, error);
-    if (info.suffix().compare(QStringLiteral("dxf"), Qt::CaseInsensitive) == 0)
-        return dxf::readDxfDrawing(path, error);
-    fail(error, QStringLiteral("%1: unknown drawing format (expected .xml or .dxf)").arg(path));
-    return nullptr;
 }
 
 } // namespace kesto::workbench

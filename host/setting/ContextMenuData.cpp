@@ -1,4 +1,4 @@
-#include "control/ContextMenuData.h"
+#include "setting/ContextMenuData.h"
 
 #include "command/CommandTable.h"
 #include "utility/Xml.h"

@@ -1,6 +1,6 @@
-#include "Session.h"
+#include "session/Session.h"
 
-#include "DrawingFile.h"
+#include "drawing/DrawingFile.h"
 
 #include "core/SystemConfig.h"
 

@@ -1,4 +1,4 @@
-#include "CommandActions.h"
+#include "window/CommandActions.h"
 
 #include "command/CommandTable.h"
 #include "core/Application.h"

@@ -1,7 +1,7 @@
-#include "DxfDrawing.h"
+#include "dxf/DxfReader.h"
 
-#include "DxfModel.h"
-#include "DxfScan.h"
+#include "dxf/DxfCollector.h"
+#include "dxf/DxfScan.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
-#include "WorkbenchWindow.h"
+#include "window/WorkbenchWindow.h"
 
-#include "CommandActions.h"
-#include "Session.h"
+#include "session/Session.h"
+#include "window/CommandActions.h"
 
 #include "core/Application.h"
 #include "element/KsCrossSectionView.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Topic.h"
+#include "topics/Topic.h"
 
 #include <QSet>
 #include <QString>

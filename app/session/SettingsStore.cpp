@@ -1,4 +1,4 @@
-#include "SettingsStore.h"
+#include "session/SettingsStore.h"
 
 #include "config/DialogDataFile.h"
 #include "core/SystemConfig.h"

@@ -12,6 +12,4 @@ namespace kesto::workbench {
 // Formats: DXF (.dxf) and the workbench's XML drawing (.xml, see docs/drawing-format.md).
 std::unique_ptr<CMemoryDataBase> openDrawing(const QString& path, QString* error);
 
-std::unique_ptr<CMemoryDataBase> readXmlDrawing(const QString& path, QString* error);
-
 } // namespace kesto::workbench

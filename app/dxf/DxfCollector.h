@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DxfText.h"
+#include "dxf/DxfText.h"
 
 #include <dl_creationadapter.h>
 

@@ -12,10 +12,11 @@ namespace kesto::ui::control {
 
 CKsListCtrl::CKsListCtrl(QWidget* parent)
     : QTableView(parent)
-    , m_model(new CKsListModel(this))
+    , m_textModel(new CKsListModel(this))
+    , m_model(nullptr)
 {
-    setModel(m_model);
-    setItemDelegate(new CKsListDelegate(m_model, this));
+    setItemDelegate(new CKsListDelegate(this));
+    setTabKeyNavigation(false);
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked
@@ -31,9 +32,7 @@ CKsListCtrl::CKsListCtrl(QWidget* parent)
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setStretchLastSection(false);
 
-    m_model->setEditCallback([this](const SListCellEvent& e) { onUserEdit(e); });
-    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &CKsListCtrl::onSelectionChanged);
+    setTableModel(nullptr);
     connect(this, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex& index) {
         if (m_model->column(index.column()).type == EColumnType::Color)
             editColorCell(index);
@@ -44,6 +43,25 @@ CKsListCtrl::CKsListCtrl(QWidget* parent)
 }
 
 CKsListCtrl::~CKsListCtrl() = default;
+
+void CKsListCtrl::setTableModel(CKsTableModel* model)
+{
+    if (!model)
+        model = m_textModel;
+    if (model == m_model)
+        return;
+    if (m_model)
+        m_model->setEditCallback({});
+    disconnect(m_selectionConnection);
+    m_model = model;
+    setModel(model);
+    for (int column = 0; column < model->columnCount(); ++column)
+        setColumnWidth(column, model->column(column).width);
+    model->setEditCallback([this](const SListCellEvent& e) { onUserEdit(e); });
+    m_selectionConnection = connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
+                                    &CKsListCtrl::onSelectionChanged);
+    onSelectionChanged();
+}
 
 int CKsListCtrl::addColumn(const QString& title, int width, EColumnType type,
                            Qt::Alignment alignment, bool editable)
@@ -79,37 +97,37 @@ void CKsListCtrl::fitColumnToContents(int column)
 
 int CKsListCtrl::addRow(SListRow row)
 {
-    return m_model->addRow(std::move(row));
+    return m_textModel->addRow(std::move(row));
 }
 
 int CKsListCtrl::addRow(const QStringList& texts, std::uint64_t data)
 {
-    return m_model->addRow(SListRow(texts, data));
+    return m_textModel->addRow(SListRow(texts, data));
 }
 
 void CKsListCtrl::insertRow(int at, SListRow row)
 {
-    m_model->insertRow(at, std::move(row));
+    m_textModel->insertRow(at, std::move(row));
 }
 
 void CKsListCtrl::addRows(std::vector<SListRow> rows)
 {
-    m_model->appendRows(std::move(rows));
+    m_textModel->appendRows(std::move(rows));
 }
 
 void CKsListCtrl::setRows(std::vector<SListRow> rows)
 {
-    m_model->setRows(std::move(rows));
+    m_textModel->setRows(std::move(rows));
 }
 
 bool CKsListCtrl::removeRow(int row)
 {
-    return m_model->removeRowAt(row);
+    return m_textModel->removeRowAt(row);
 }
 
 bool CKsListCtrl::removeRowAndSelectNext(int row)
 {
-    if (!m_model->removeRowAt(row))
+    if (!m_textModel->removeRowAt(row))
         return false;
     if (getRowCount() > 0)
         selectRow(std::min(row, getRowCount() - 1));
@@ -118,31 +136,29 @@ bool CKsListCtrl::removeRowAndSelectNext(int row)
 
 void CKsListCtrl::removeAllRows()
 {
-    m_model->removeAllRows();
+    m_textModel->removeAllRows();
 }
 
 bool CKsListCtrl::moveRow(int from, int to)
 {
-    return m_model->moveRowTo(from, to);
+    return m_textModel->moveRowTo(from, to);
 }
 
 bool CKsListCtrl::swapRows(int first, int second)
 {
-    if (!m_model->isValidRow(first) || !m_model->isValidRow(second) || first == second)
+    if (!m_textModel->isValidRow(first) || !m_textModel->isValidRow(second) || first == second)
         return false;
     const int low = std::min(first, second);
     const int high = std::max(first, second);
-    m_model->moveRowTo(high, low);
+    m_textModel->moveRowTo(high, low);
     if (high - low > 1)
-        m_model->moveRowTo(low + 1, high);
+        m_textModel->moveRowTo(low + 1, high);
     return true;
 }
 
 QString CKsListCtrl::getCellText(int row, int column) const
 {
-    if (!m_model->isValidRow(row))
-        return {};
-    return m_model->row(row).text(column);
+    return m_model->cellText(row, column);
 }
 
 QStringList CKsListCtrl::getRowTexts(int row) const
@@ -169,9 +185,7 @@ void CKsListCtrl::setCellText(int row, int column, const QString& text)
 
 QRgb CKsListCtrl::getCellColor(int row, int column) const
 {
-    if (!m_model->isValidRow(row) || column < 0 || column >= getColumnCount())
-        return 0;
-    return m_model->row(row).cells[static_cast<std::size_t>(column)].color;
+    return m_model->cellColor(row, column);
 }
 
 void CKsListCtrl::setCellColor(int row, int column, QRgb color)
@@ -181,7 +195,7 @@ void CKsListCtrl::setCellColor(int row, int column, QRgb color)
 
 void CKsListCtrl::setCellEditable(int row, int column, bool editable)
 {
-    m_model->setCellEditable(row, column, editable);
+    m_textModel->setCellEditable(row, column, editable);
 }
 
 bool CKsListCtrl::isCellEditable(int row, int column) const
@@ -260,7 +274,11 @@ int CKsListCtrl::findRow(int column, const QString& text, int from) const
 
 int CKsListCtrl::findRowByData(std::uint64_t data, int from) const
 {
-    return m_model->findRowByData(data, from);
+    for (int r = std::max(from, 0); r < m_textModel->rowCount(); ++r) {
+        if (m_textModel->row(r).data == data)
+            return r;
+    }
+    return -1;
 }
 
 void CKsListCtrl::onUserEdit(const SListCellEvent& event)

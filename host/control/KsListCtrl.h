@@ -8,8 +8,10 @@
 namespace kesto::ui::control {
 
 // The host's editable grid. Rows are held by a model, so large lists fill and scroll without
-// creating a widget per cell. Cell edits by the user are reported to observers as
-// LIST_EVENT_CELL_CHANGED after they are stored; changes made through the API are not.
+// creating a widget per cell: its own rows of texts (listModel), or a model of records set
+// with setTableModel, whose cells are views of the records. Cell edits by the user are
+// reported to observers as LIST_EVENT_CELL_CHANGED after they are stored; changes made
+// through the API are not. Tab leaves the grid; arrows move, F2 or Enter edits.
 class CKsListCtrl : public QTableView, public kesto::Subject {
     Q_OBJECT
 
@@ -17,9 +19,13 @@ public:
     explicit CKsListCtrl(QWidget* parent = nullptr);
     ~CKsListCtrl() override;
 
-    CKsListModel* listModel() const { return m_model; }
+    // The list's own rows of texts.
+    CKsListModel* listModel() const { return m_textModel; }
+    // The model shown; a null model shows the list's own rows again.
+    void setTableModel(CKsTableModel* model);
+    CKsTableModel* tableModel() const { return m_model; }
 
-    // Columns
+    // Columns of the model shown
     int addColumn(const QString& title, int width, EColumnType type = EColumnType::Text,
                   Qt::Alignment alignment = Qt::AlignLeft, bool editable = true);
     void setColumnItems(int column, const QStringList& items);
@@ -28,7 +34,7 @@ public:
     // Widens (or narrows) a column to its header and the texts of up to 1,000 rows.
     void fitColumnToContents(int column);
 
-    // Rows
+    // Rows of the list's own model
     int addRow(SListRow row);
     int addRow(const QStringList& texts, std::uint64_t data = 0);
     void insertRow(int at, SListRow row);
@@ -42,13 +48,13 @@ public:
     bool moveRow(int from, int to);
     bool swapRows(int first, int second);
     int getRowCount() const { return m_model->rowCount(); }
-    SListRow& getRow(int row) { return m_model->row(row); }
-    const SListRow& getRow(int row) const { return m_model->row(row); }
-    void updateRow(int row) { m_model->rowChanged(row); }
+    SListRow& getRow(int row) { return m_textModel->row(row); }
+    const SListRow& getRow(int row) const { return m_textModel->row(row); }
+    void updateRow(int row) { m_model->rowsChanged(row, row); }
     // Repaints rows first..last after their cells were changed through getRow().
     void updateRows(int first, int last) { m_model->rowsChanged(first, last); }
 
-    // Cells
+    // Cells of the model shown
     QString getCellText(int row, int column) const;
     // The texts of a row's cells, in column order.
     QStringList getRowTexts(int row) const;
@@ -62,6 +68,7 @@ public:
     bool commitCellText(int row, int column, const QString& text);
     bool commitCellColor(int row, int column, QRgb color);
     void setEditable(bool editable) { m_model->setEditable(editable); }
+    int findRowByKey(std::uint64_t key) const { return m_model->findRowByKey(key); }
 
     // Selection
     void setMultiSelect(bool multi);
@@ -85,7 +92,9 @@ private:
     void editColorCell(const QModelIndex& index);
     void keyPressEvent(QKeyEvent* event) override;
 
-    CKsListModel* m_model;
+    CKsListModel* m_textModel;
+    CKsTableModel* m_model;
+    QMetaObject::Connection m_selectionConnection;
 };
 
 } // namespace kesto::ui::control

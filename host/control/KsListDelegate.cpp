@@ -1,6 +1,8 @@
 #include "control/KsListDelegate.h"
 
-#include "control/KsListModel.h"
+#include "control/KsTableModel.h"
+#include "control/SelectLineWidthComboBox.h"
+#include "control/SystemLineTypeComboBox.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -8,20 +10,20 @@
 
 namespace kesto::ui::control {
 
-CKsListDelegate::CKsListDelegate(const CKsListModel* model, QObject* parent)
-    : QStyledItemDelegate(parent)
-    , m_model(model)
-{}
+namespace {
 
-QWidget* CKsListDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
-                                       const QModelIndex& index) const
+EColumnType typeOf(const QModelIndex& index)
 {
-    const SListColumn& column = m_model->column(index.column());
-    if (column.type != EColumnType::Combo)
-        return QStyledItemDelegate::createEditor(parent, option, index);
-    auto* box = new QComboBox(parent);
-    box->addItems(column.items);
-    // Commit as soon as an item is chosen; queued so the editor is not closed in its own signal.
+    const auto* model = qobject_cast<const CKsTableModel*>(index.model());
+    return model ? model->column(index.column()).type : EColumnType::Text;
+}
+
+} // namespace
+
+// A choice is committed as soon as it is made; queued so the editor is not closed in its own
+// signal.
+void CKsListDelegate::commitOnChoice(QComboBox* box) const
+{
     connect(
         box, &QComboBox::activated, this,
         [this, box] {
@@ -30,33 +32,69 @@ QWidget* CKsListDelegate::createEditor(QWidget* parent, const QStyleOptionViewIt
             emit self->closeEditor(box);
         },
         Qt::QueuedConnection);
+}
+
+QWidget* CKsListDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                                       const QModelIndex& index) const
+{
+    QComboBox* box = nullptr;
+    switch (typeOf(index)) {
+    case EColumnType::Combo: {
+        box = new QComboBox(parent);
+        const auto* model = qobject_cast<const CKsTableModel*>(index.model());
+        box->addItems(model->column(index.column()).items);
+        break;
+    }
+    case EColumnType::LineType:
+        box = new CSystemLineTypeComboBox(parent);
+        break;
+    case EColumnType::LineWidth: {
+        auto* widths = new SelectLineWidthComboBox(parent);
+        widths->init();
+        box = widths;
+        break;
+    }
+    default:
+        return QStyledItemDelegate::createEditor(parent, option, index);
+    }
+    commitOnChoice(box);
     return box;
 }
 
 void CKsListDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
 {
-    if (auto* box = qobject_cast<QComboBox*>(editor)) {
-        box->setCurrentIndex(box->findText(index.data(Qt::EditRole).toString()));
-        return;
-    }
-    QStyledItemDelegate::setEditorData(editor, index);
+    const QVariant value = index.data(Qt::EditRole);
+    if (auto* lineTypes = qobject_cast<CSystemLineTypeComboBox*>(editor))
+        lineTypes->selectLineType(value.value<KsLineType>());
+    else if (auto* widths = qobject_cast<SelectLineWidthComboBox*>(editor))
+        widths->selectLineWidth(value.value<KsLineWidth>());
+    else if (auto* box = qobject_cast<QComboBox*>(editor))
+        box->setCurrentIndex(box->findText(value.toString()));
+    else
+        QStyledItemDelegate::setEditorData(editor, index);
 }
 
 void CKsListDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
                                    const QModelIndex& index) const
 {
-    if (auto* box = qobject_cast<QComboBox*>(editor)) {
+    if (auto* lineTypes = qobject_cast<CSystemLineTypeComboBox*>(editor)) {
+        if (const KsLineType* chosen = lineTypes->getCurLType())
+            model->setData(index, QVariant::fromValue(*chosen), Qt::EditRole);
+    } else if (auto* widths = qobject_cast<SelectLineWidthComboBox*>(editor)) {
+        if (widths->currentIndex() >= 0)
+            model->setData(index, QVariant::fromValue(widths->getCurLineWidth()), Qt::EditRole);
+    } else if (auto* box = qobject_cast<QComboBox*>(editor)) {
         if (box->currentIndex() >= 0)
             model->setData(index, box->currentText(), Qt::EditRole);
-        return;
+    } else {
+        QStyledItemDelegate::setModelData(editor, model, index);
     }
-    QStyledItemDelegate::setModelData(editor, model, index);
 }
 
 void CKsListDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                             const QModelIndex& index) const
 {
-    if (m_model->column(index.column()).type != EColumnType::Color) {
+    if (typeOf(index) != EColumnType::Color) {
         QStyledItemDelegate::paint(painter, option, index);
         return;
     }

@@ -2,17 +2,17 @@
 
 #include <QStyledItemDelegate>
 
+class QComboBox;
+
 namespace kesto::ui::control {
 
-class CKsListModel;
-
-// Editors of the list's cells: a line edit for text, a combo box for combo columns, and a
-// swatch painter for colour columns.
+// Editors of the list's cells by column kind: a line edit for typed text, a combo box for
+// choices, the host's line type and line width combo boxes, and a swatch for colours.
 class CKsListDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
 public:
-    CKsListDelegate(const CKsListModel* model, QObject* parent);
+    using QStyledItemDelegate::QStyledItemDelegate;
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override;
@@ -23,7 +23,7 @@ public:
                const QModelIndex& index) const override;
 
 private:
-    const CKsListModel* m_model;
+    void commitOnChoice(QComboBox* box) const;
 };
 
 } // namespace kesto::ui::control

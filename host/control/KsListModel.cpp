@@ -5,7 +5,7 @@
 namespace kesto::ui::control {
 
 CKsListModel::CKsListModel(QObject* parent)
-    : QAbstractTableModel(parent)
+    : CKsTableModel(parent)
 {}
 
 int CKsListModel::rowCount(const QModelIndex& parent) const
@@ -13,100 +13,40 @@ int CKsListModel::rowCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
 }
 
-int CKsListModel::columnCount(const QModelIndex& parent) const
+QString CKsListModel::cellText(int r, int c) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
+    const SListCell* cell = cellAt(r, c);
+    return cell ? cell->text : QString();
 }
 
-QVariant CKsListModel::data(const QModelIndex& index, int role) const
+QRgb CKsListModel::cellColor(int r, int c) const
 {
-    const SListCell* cell = cellAt(index.row(), index.column());
-    if (!cell)
-        return {};
-    const SListColumn& col = column(index.column());
-    switch (role) {
-    case Qt::DisplayRole:
-        return col.type == EColumnType::Color ? QVariant() : QVariant(cell->text);
-    case Qt::EditRole:
-    case Qt::ToolTipRole:
-        return cell->text;
-    case Qt::DecorationRole:
-        return col.type == EColumnType::Color ? QVariant(QColor::fromRgb(cell->color)) : QVariant();
-    case Qt::TextAlignmentRole:
-        return QVariant::fromValue(col.alignment);
-    case Qt::BackgroundRole:
-        return col.background.isValid() ? QVariant(col.background) : QVariant();
-    default:
-        return {};
-    }
+    const SListCell* cell = cellAt(r, c);
+    return cell ? cell->color : 0;
 }
 
-QVariant CKsListModel::headerData(int section, Qt::Orientation orientation, int role) const
+bool CKsListModel::storeText(int r, int c, const QString& text)
 {
-    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
-        return {};
-    if (role == Qt::DisplayRole)
-        return column(section).title;
-    if (role == Qt::TextAlignmentRole)
-        return QVariant::fromValue(column(section).alignment);
-    return {};
-}
-
-Qt::ItemFlags CKsListModel::flags(const QModelIndex& index) const
-{
-    if (!index.isValid())
-        return Qt::NoItemFlags;
-    Qt::ItemFlags result = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
-    if (isCellEditable(index.row(), index.column())
-        && column(index.column()).type != EColumnType::Color)
-        result |= Qt::ItemIsEditable;
-    return result;
-}
-
-bool CKsListModel::setData(const QModelIndex& index, const QVariant& value, int role)
-{
-    if (!isCellEditable(index.row(), index.column()))
+    SListCell* cell = cellAt(r, c);
+    if (!cell || cell->text == text)
         return false;
-    SListCell* cell = cellAt(index.row(), index.column());
-    SListCellEvent event{index.row(), index.column(), cell->text, cell->color};
-    if (role == Qt::DecorationRole && value.canConvert<QColor>()) {
-        const QRgb rgb = value.value<QColor>().rgb() & 0xFFFFFFu;
-        if (rgb == cell->color)
-            return false;
-        cell->color = event.color = rgb;
-    } else if (role == Qt::EditRole) {
-        const QString text = value.toString();
-        if (text == cell->text)
-            return false;
-        cell->text = event.text = text;
-    } else {
-        return false;
-    }
-    emit dataChanged(index, index);
-    if (m_onEdit)
-        m_onEdit(event);
+    cell->text = text;
     return true;
 }
 
-int CKsListModel::addColumn(const SListColumn& col)
+bool CKsListModel::storeColor(int r, int c, QRgb color)
 {
-    const int at = columnCount();
-    beginInsertColumns({}, at, at);
-    m_columns.push_back(col);
+    SListCell* cell = cellAt(r, c);
+    if (!cell || cell->color == (color & 0xFFFFFFu))
+        return false;
+    cell->color = color & 0xFFFFFFu;
+    return true;
+}
+
+void CKsListModel::columnsAdded()
+{
     for (SListRow& r : m_rows)
         normalize(r);
-    endInsertColumns();
-    return at;
-}
-
-const SListColumn& CKsListModel::column(int index) const
-{
-    return m_columns[static_cast<std::size_t>(index)];
-}
-
-SListColumn& CKsListModel::column(int index)
-{
-    return m_columns[static_cast<std::size_t>(index)];
 }
 
 int CKsListModel::addRow(SListRow r)
@@ -159,9 +99,7 @@ bool CKsListModel::removeRowAt(int r)
 
 void CKsListModel::removeAllRows()
 {
-    beginResetModel();
-    m_rows.clear();
-    endResetModel();
+    setRows({});
 }
 
 bool CKsListModel::moveRowTo(int from, int to)
@@ -169,48 +107,12 @@ bool CKsListModel::moveRowTo(int from, int to)
     if (!isValidRow(from) || !isValidRow(to) || from == to)
         return false;
     // Qt's destination is the row before which the moved row lands.
-    const int destination = to > from ? to + 1 : to;
-    beginMoveRows({}, from, from, {}, destination);
+    beginMoveRows({}, from, from, {}, to > from ? to + 1 : to);
     SListRow moved = std::move(m_rows[static_cast<std::size_t>(from)]);
     m_rows.erase(m_rows.begin() + from);
     m_rows.insert(m_rows.begin() + to, std::move(moved));
     endMoveRows();
     return true;
-}
-
-void CKsListModel::rowChanged(int r)
-{
-    if (!isValidRow(r))
-        return;
-    normalize(row(r));
-    emit dataChanged(index(r, 0), index(r, columnCount() - 1));
-}
-
-void CKsListModel::rowsChanged(int first, int last)
-{
-    first = std::max(first, 0);
-    last = std::min(last, rowCount() - 1);
-    if (first > last)
-        return;
-    for (int r = first; r <= last; ++r)
-        normalize(row(r));
-    emit dataChanged(index(first, 0), index(last, columnCount() - 1));
-}
-
-void CKsListModel::setCellText(int r, int c, const QString& text)
-{
-    if (SListCell* cell = cellAt(r, c)) {
-        cell->text = text;
-        emit dataChanged(index(r, c), index(r, c));
-    }
-}
-
-void CKsListModel::setCellColor(int r, int c, QRgb color)
-{
-    if (SListCell* cell = cellAt(r, c)) {
-        cell->color = color & 0xFFFFFFu;
-        emit dataChanged(index(r, c), index(r, c));
-    }
 }
 
 void CKsListModel::setCellEditable(int r, int c, bool editable)
@@ -219,48 +121,31 @@ void CKsListModel::setCellEditable(int r, int c, bool editable)
         cell->editable = editable;
 }
 
-bool CKsListModel::isCellEditable(int r, int c) const
+bool CKsListModel::rowCellEditable(int r, int c) const
 {
     const SListCell* cell = cellAt(r, c);
-    return m_editable && cell && cell->editable && column(c).editable;
-}
-
-int CKsListModel::findRow(int c, const QString& text, int from) const
-{
-    if (c < 0 || c >= columnCount())
-        return -1;
-    for (int r = std::max(from, 0); r < rowCount(); ++r) {
-        if (row(r).cells[static_cast<std::size_t>(c)].text == text)
-            return r;
-    }
-    return -1;
-}
-
-int CKsListModel::findRowByData(std::uint64_t value, int from) const
-{
-    for (int r = std::max(from, 0); r < rowCount(); ++r) {
-        if (row(r).data == value)
-            return r;
-    }
-    return -1;
+    return cell && cell->editable;
 }
 
 void CKsListModel::normalize(SListRow& r) const
 {
-    if (r.cells.size() < m_columns.size())
-        r.cells.resize(m_columns.size());
+    if (r.cells.size() < static_cast<std::size_t>(columnCount()))
+        r.cells.resize(static_cast<std::size_t>(columnCount()));
 }
 
 SListCell* CKsListModel::cellAt(int r, int c)
 {
-    if (!isValidRow(r) || c < 0 || c >= columnCount())
+    if (!isValidCell(r, c))
         return nullptr;
-    return &row(r).cells[static_cast<std::size_t>(c)];
+    SListRow& line = row(r);
+    if (line.cells.size() <= static_cast<std::size_t>(c))
+        normalize(line);
+    return &line.cells[static_cast<std::size_t>(c)];
 }
 
 const SListCell* CKsListModel::cellAt(int r, int c) const
 {
-    if (!isValidRow(r) || c < 0 || c >= columnCount())
+    if (!isValidCell(r, c) || row(r).cells.size() <= static_cast<std::size_t>(c))
         return nullptr;
     return &row(r).cells[static_cast<std::size_t>(c)];
 }

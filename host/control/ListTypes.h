@@ -9,11 +9,21 @@
 
 namespace kesto::ui::control {
 
+// How a column's cells are shown and edited.
 enum class EColumnType {
-    Text,  // edited in place as text
-    Combo, // edited by choosing one of the column's items
-    Color, // shows a colour swatch; edited through the host's colour chooser
+    Text,      // edited in place as text
+    Integer,   // typed as text, read as the column reads an integer
+    Real,      // typed as text, read as the column reads a number
+    Combo,     // edited by choosing one of the column's items ("○/×" and the like)
+    Color,     // shows a colour swatch; edited through the host's colour chooser
+    LineType,  // chosen from the host's line type combo box
+    LineWidth, // chosen from the host's line width combo box
 };
+// Texts typed into these columns are edited with a line edit.
+inline bool isTypedColumn(EColumnType type)
+{
+    return type == EColumnType::Text || type == EColumnType::Integer || type == EColumnType::Real;
+}
 
 struct SListColumn {
     QString title;

@@ -95,6 +95,12 @@ void CKsDialog::savePlacement()
         core::Application::getInstance()->placements().savePlacement(m_placementKey, this);
 }
 
+QString CKsDialog::handlerClass() const
+{
+    const QString name = QString::fromLatin1(metaObject()->className());
+    return name.mid(name.lastIndexOf(u':') + 1);
+}
+
 QWidget* CKsDialog::GetDlgItem(int id) const
 {
     auto it = m_controls.constFind(id);

@@ -1,12 +1,14 @@
 #pragma once
 
 #include "framework/DialogIds.h"
+#include "framework/HandlerGuard.h"
 
 #include <QDialog>
 #include <QHash>
 #include <QPointer>
 
 #include <functional>
+#include <source_location>
 
 namespace kesto::ui::framework {
 
@@ -41,6 +43,9 @@ public:
     // Makes the size the dialog opens with its minimum size.
     void keepFirstSizeAsMinimum(bool keep) { m_firstSizeIsMinimum = keep; }
 
+    // The class name handlers log under: the dialog's class without its namespace.
+    virtual QString handlerClass() const;
+
     QWidget* GetDlgItem(int id) const;
     template <class T>
     T* dlgItem(int id) const
@@ -49,6 +54,15 @@ public:
     }
 
 protected:
+    // Runs a message handler under the dialog's class name and the calling function's name,
+    // which an exception is logged with.
+    template <class F>
+    decltype(auto) guarded(F&& handler,
+                           std::source_location where = std::source_location::current()) const
+    {
+        return guardHandler(handlerClass(), methodOf(where), std::forward<F>(handler));
+    }
+
     virtual bool OnInitDialog();
     virtual void OnOK();
     virtual void OnCancel();

@@ -3,31 +3,14 @@
 #include "utility/NumberFormat.h"
 #include "utility/Xml.h"
 
-#include <QColor>
 
 #include <cmath>
 
 namespace kesto::ui::setting::xmlform {
 
-QString rgbText(std::uint32_t rgb)
-{
-    return QColor::fromRgb(rgb & 0xFFFFFFu).name(QColor::HexRgb).toUpper();
-}
-
-bool readRgb(const QString& text, std::uint32_t& out)
-{
-    if (!text.startsWith(u'#') || text.size() != 7)
-        return false;
-    const QColor color(text);
-    if (!color.isValid())
-        return false;
-    out = color.rgb() & 0xFFFFFFu;
-    return true;
-}
-
 void writeColor(QDomElement& element, const KsColor& color)
 {
-    element.setAttribute(QStringLiteral("rgb"), rgbText(color.getRGB()));
+    element.setAttribute(QStringLiteral("rgb"), KsColor::rgbText(color.getRGB()));
     element.setAttribute(QStringLiteral("colorType"), color.getColorType());
     element.setAttribute(QStringLiteral("colorName"), QString::fromStdWString(color.getName()));
 }
@@ -36,7 +19,7 @@ bool readColor(const QDomElement& element, KsColor& out)
 {
     std::uint32_t rgb = 0;
     int type = KsColor::System;
-    if (!readRgb(element.attribute(QStringLiteral("rgb")), rgb)
+    if (!KsColor::readRgbText(element.attribute(QStringLiteral("rgb")), rgb)
         || !utility::xml::readIntAttribute(element, QStringLiteral("colorType"), type)
         || type < KsColor::ByLayer || type > KsColor::User)
         return false;

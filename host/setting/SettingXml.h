@@ -12,9 +12,6 @@
 // leave out alone when an attribute is missing or malformed.
 namespace kesto::ui::setting::xmlform {
 
-QString rgbText(std::uint32_t rgb);
-bool readRgb(const QString& text, std::uint32_t& out);
-
 // rgb, colorType, colorName
 void writeColor(QDomElement& element, const KsColor& color);
 bool readColor(const QDomElement& element, KsColor& out);

@@ -1,31 +1,10 @@
 #include "setting/SystemColorSetting.h"
 
-#include <QColor>
 #include <set>
 
 #include <algorithm>
 
 namespace kesto::ui::setting {
-
-namespace {
-
-QString rgbText(std::uint32_t rgb)
-{
-    return QColor::fromRgb(rgb).name(QColor::HexRgb).toUpper();
-}
-
-bool readRgb(const QString& text, std::uint32_t& out)
-{
-    if (!text.startsWith(u'#') || text.size() != 7)
-        return false;
-    const QColor color(text);
-    if (!color.isValid())
-        return false;
-    out = color.rgb() & 0xFFFFFFu;
-    return true;
-}
-
-} // namespace
 
 CSystemColorSetting CSystemColorSetting::makeDefault()
 {
@@ -74,7 +53,7 @@ bool CSystemColorSetting::loadXMLNode(const QDomElement& element)
     for (QDomElement e = element.firstChildElement(QStringLiteral("Color")); !e.isNull();
          e = e.nextSiblingElement(QStringLiteral("Color"))) {
         std::uint32_t rgb = 0;
-        if (!readRgb(e.attribute(QStringLiteral("rgb")), rgb))
+        if (!KsColor::readRgbText(e.attribute(QStringLiteral("rgb")), rgb))
             return false;
         colors.emplace_back(rgb, KsColor::System,
                             e.attribute(QStringLiteral("name")).toStdWString());
@@ -87,7 +66,7 @@ void CSystemColorSetting::saveXMLNode(QDomDocument& doc, QDomElement& element) c
     for (const KsColor& color : m_colors) {
         QDomElement e = doc.createElement(QStringLiteral("Color"));
         e.setAttribute(QStringLiteral("name"), QString::fromStdWString(color.getName()));
-        e.setAttribute(QStringLiteral("rgb"), rgbText(color.getRGB()));
+        e.setAttribute(QStringLiteral("rgb"), KsColor::rgbText(color.getRGB()));
         element.appendChild(e);
     }
 }
@@ -114,7 +93,7 @@ bool CColorSetting::loadXMLNode(const QDomElement& element)
     for (QDomElement e = element.firstChildElement(QStringLiteral("CustomColor")); !e.isNull();
          e = e.nextSiblingElement(QStringLiteral("CustomColor"))) {
         std::uint32_t rgb = 0;
-        if (!readRgb(e.attribute(QStringLiteral("rgb")), rgb))
+        if (!KsColor::readRgbText(e.attribute(QStringLiteral("rgb")), rgb))
             return false;
         colors.push_back(rgb);
     }
@@ -126,7 +105,7 @@ void CColorSetting::saveXMLNode(QDomDocument& doc, QDomElement& element) const
 {
     for (std::uint32_t rgb : m_customColors) {
         QDomElement e = doc.createElement(QStringLiteral("CustomColor"));
-        e.setAttribute(QStringLiteral("rgb"), rgbText(rgb));
+        e.setAttribute(QStringLiteral("rgb"), KsColor::rgbText(rgb));
         element.appendChild(e);
     }
 }

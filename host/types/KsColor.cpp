@@ -20,3 +20,20 @@ bool KsColor::operator==(const KsColor& other) const
 {
     return m_rgb == other.m_rgb && m_colorType == other.m_colorType && m_name == other.m_name;
 }
+
+QString KsColor::rgbText(std::uint32_t rgb)
+{
+    return QStringLiteral("#%1").arg(rgb & 0xFFFFFFu, 6, 16, QLatin1Char('0')).toUpper();
+}
+
+bool KsColor::readRgbText(const QString& text, std::uint32_t& out)
+{
+    if (text.size() != 7 || !text.startsWith(u'#'))
+        return false;
+    bool ok = false;
+    const uint value = QStringView(text).mid(1).toUInt(&ok, 16);
+    if (!ok || text[1] == u'+' || text[1] == u'-')
+        return false;
+    out = value & 0xFFFFFFu;
+    return true;
+}

@@ -31,6 +31,11 @@ public:
 
     bool operator==(const KsColor& other) const;
 
+    // The one text form of an RGB value, "#RRGGBB" (upper case), and its reading: exactly
+    // '#' and six hex digits, else false with out left alone.
+    static QString rgbText(std::uint32_t rgb);
+    static bool readRgbText(const QString& text, std::uint32_t& out);
+
 private:
     std::uint32_t m_rgb = 0;
     int m_colorType = System;

@@ -2,6 +2,8 @@
 
 #include "types/KsObject.h"
 
+#include <QMetaType>
+
 #include <string>
 #include <vector>
 
@@ -39,3 +41,5 @@ private:
     int m_kind = Solid;
     std::vector<double> m_dashes;
 };
+
+Q_DECLARE_METATYPE(KsLineType)

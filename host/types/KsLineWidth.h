@@ -2,6 +2,8 @@
 
 #include "types/KsObject.h"
 
+#include <QMetaType>
+
 #include <cstdint>
 #include <string>
 
@@ -46,3 +48,5 @@ private:
     int m_colorType = 1;
     std::wstring m_colorName;
 };
+
+Q_DECLARE_METATYPE(KsLineWidth)

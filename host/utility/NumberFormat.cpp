@@ -1,6 +1,10 @@
 #include "utility/NumberFormat.h"
 
+#include <algorithm>
+#include <charconv>
 #include <cmath>
+#include <limits>
+#include <string>
 
 namespace kesto::utility {
 
@@ -45,6 +49,42 @@ std::optional<double> parseDecimal(const QString& text)
     if (!ok || !std::isfinite(value))
         return std::nullopt;
     return value;
+}
+
+// The text after leading blanks, in ASCII, with a leading "+" dropped.
+static std::string numberPart(const QString& text)
+{
+    const QString half = toHalfWidth(text).trimmed();
+    std::string ascii = half.toLatin1().toStdString();
+    if (!ascii.empty() && ascii.front() == '+' && (ascii.size() < 2 || ascii[1] != '-'))
+        ascii.erase(0, 1);
+    return ascii;
+}
+
+double readNumber(const QString& text)
+{
+    const std::string ascii = numberPart(text);
+    double value = 0;
+    const auto [end, error] = std::from_chars(ascii.data(), ascii.data() + ascii.size(), value,
+                                              std::chars_format::general);
+    if (error != std::errc() || !std::isfinite(value) || end == ascii.data())
+        return 0;
+    return value;
+}
+
+int readInteger(const QString& text)
+{
+    const std::string ascii = numberPart(text);
+    long long value = 0;
+    const auto [end, error] =
+        std::from_chars(ascii.data(), ascii.data() + ascii.size(), value, 10);
+    if (error == std::errc::result_out_of_range)
+        return ascii.front() == '-' ? std::numeric_limits<int>::min()
+                                    : std::numeric_limits<int>::max();
+    if (error != std::errc())
+        return 0;
+    return static_cast<int>(std::clamp<long long>(value, std::numeric_limits<int>::min(),
+                                                  std::numeric_limits<int>::max()));
 }
 
 double roundToDecimals(double value, int decimals)

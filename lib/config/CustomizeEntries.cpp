@@ -14,8 +14,9 @@ bool doShortCutDlg(setting::CShortCutSetting& setting, const utility::CCommandTa
     setting::CShortCutSetting defaults;
     defaults.setupByTable(commands);
     return runSettingDialog<CShortCutDlg>(
-        setting, &defaults, CopyBack::OnChange,
-        [&](CShortCutDlg& dlg) { dlg.setCommandTable(commands); });
+        setting, &defaults,
+        SProtocol<CShortCutDlg>{CopyBack::OnChange,
+                                [&](CShortCutDlg& dlg) { dlg.setCommandTable(commands); }});
 }
 
 bool doMouseDlg(setting::CMouseSetting& setting, const setting::CMouseSetting& defaults,
@@ -23,10 +24,12 @@ bool doMouseDlg(setting::CMouseSetting& setting, const setting::CMouseSetting& d
 {
     if (!commands)
         return false;
-    return runSettingDialog<CMouseDlg>(setting, &defaults, CopyBack::OnOk, [&](CMouseDlg& dlg) {
+    const auto prepare = [&](CMouseDlg& dlg) {
         dlg.setCommandTable(commands);
         dlg.loadMouseCommands(commandFile ? std::wstring(commandFile) : std::wstring());
-    });
+    };
+    return runSettingDialog<CMouseDlg>(setting, &defaults,
+                                       SProtocol<CMouseDlg>{CopyBack::OnOk, prepare});
 }
 
 } // namespace kesto::ui::config

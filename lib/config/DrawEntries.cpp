@@ -8,8 +8,9 @@ namespace kesto::ui::config {
 bool doDrawCommonDlg(setting::CDrawCommonSetting& setting, SDrawCommonDlgData* data)
 {
     const setting::CDrawCommonSetting* noReset = nullptr;
-    return runSettingDialog<CDrawCommonDlg>(setting, noReset, CopyBack::Always,
-                                            [data](CDrawCommonDlg& dlg) { dlg.setDlgData(data); });
+    return runSettingDialog<CDrawCommonDlg>(
+        setting, noReset,
+        SProtocol<CDrawCommonDlg>{CopyBack::Always, [data](CDrawCommonDlg& dlg) { dlg.setDlgData(data); }});
 }
 
 } // namespace kesto::ui::config

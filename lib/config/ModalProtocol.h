@@ -1,6 +1,7 @@
 #pragma once
 
 #include "config/LibraryModule.h"
+#include "framework/DialogBinding.h"
 #include "framework/KsDialog.h"
 
 #include <concepts>
@@ -14,7 +15,9 @@ enum class CopyBack {
     OnChange, // after OK, and only when the copy differs (then the result is true)
 };
 
-// A dialog that edits a working copy of one setting and can reset it to a second copy.
+// A dialog that edits a working copy of one setting and can reset it to a second copy. Its
+// controls are bound to the working copy once (m_binding, declared in OnInitDialog); OK
+// checks the bound fields, stores them and closes, "初期化" shows the reset copy.
 template <class Setting>
 class TSettingDialog : public framework::CKsDialog {
 public:
@@ -24,9 +27,42 @@ public:
     const Setting& workingSetting() const { return m_setting; }
     Setting& resetSetting() { return m_resetSetting; }
 
+    // Whether the controls show something other than the working copy.
+    bool isModified() const { return m_binding.changed(m_setting); }
+
 protected:
+    void fillControls() { m_binding.fill(m_setting); }
+    // The first invalid field is reported and keeps the dialog open; else the controls go
+    // into the working copy.
+    bool storeControls()
+    {
+        if (const auto invalid = m_binding.firstInvalid(m_setting)) {
+            framework::reportInvalidField(this, *invalid);
+            return false;
+        }
+        m_binding.store(m_setting);
+        return true;
+    }
+    // "初期化": the working copy becomes the reset copy, and the controls show it.
+    void resetToDefaults()
+    {
+        m_setting = m_resetSetting;
+        fillControls();
+    }
+    // What OK does after the controls were stored; false keeps the dialog open.
+    virtual bool afterStore() { return true; }
+
+    void OnOK() override
+    {
+        guarded([&] {
+            if (storeControls() && afterStore())
+                EndDialog(framework::IDOK);
+        });
+    }
+
     Setting m_setting;
     Setting m_resetSetting;
+    framework::TDialogBinding<Setting> m_binding;
 };
 
 template <class D, class S>
@@ -37,24 +73,37 @@ concept EditsSetting = requires(D& dialog)
         } -> std::convertible_to<S&>;
 };
 
+// What an entry function adds to the protocol: its copy-back rule, what it hands the dialog
+// before it runs, and what it does after OK before the copy back.
+template <class Dialog>
+struct SProtocol {
+    CopyBack copyBack = CopyBack::OnOk;
+    std::function<void(Dialog&)> prepare;
+    std::function<void(Dialog&)> afterOk;
+};
+
 // The one modal protocol of the entry functions: switch to the library's resources, build the
 // dialog, hand it the caller's setting (and reset value), run it, restore the resources on
 // every path, copy the working copy back by the rule, then destroy the dialog.
-template <class Dialog, class Setting, class Prepare>
+template <class Dialog, class Setting>
 requires EditsSetting<Dialog, Setting>
-bool runSettingDialog(Setting& setting, const Setting* resetValue, CopyBack rule, Prepare&& prepare)
+bool runSettingDialog(Setting& setting, const Setting* resetValue,
+                      const SProtocol<Dialog>& protocol)
 {
     framework::ResourceSwitch resources(libraryResourceHandle());
     Dialog dialog;
     dialog.workingSetting() = setting;
     if (resetValue)
         dialog.resetSetting() = *resetValue;
-    prepare(dialog);
+    if (protocol.prepare)
+        protocol.prepare(dialog);
     const int result = dialog.DoModal();
     resources.restore();
 
     const bool ok = result == framework::IDOK;
-    switch (rule) {
+    if (ok && protocol.afterOk)
+        protocol.afterOk(dialog);
+    switch (protocol.copyBack) {
     case CopyBack::OnOk:
         if (ok)
             setting = dialog.workingSetting();
@@ -63,7 +112,7 @@ bool runSettingDialog(Setting& setting, const Setting* resetValue, CopyBack rule
         setting = dialog.workingSetting();
         return ok;
     case CopyBack::OnChange:
-        if (!ok || dialog.workingSetting().isSame(setting))
+        if (!ok || framework::sameRecord(dialog.workingSetting(), setting))
             return false;
         setting = dialog.workingSetting();
         return true;
@@ -75,7 +124,7 @@ template <class Dialog, class Setting>
 requires EditsSetting<Dialog, Setting>
 bool runSettingDialog(Setting& setting, const Setting* resetValue, CopyBack rule)
 {
-    return runSettingDialog<Dialog>(setting, resetValue, rule, [](Dialog&) {});
+    return runSettingDialog<Dialog>(setting, resetValue, SProtocol<Dialog>{rule, {}, {}});
 }
 
 } // namespace kesto::ui::config

@@ -20,26 +20,19 @@ bool doSystemScaleDlgAddMode(setting::CSystemScaleSetting& setting)
 {
     // The setting is its own reset value.
     const setting::CSystemScaleSetting resetValue = setting;
-    return runSettingDialog<CSystemScaleDlg>(setting, &resetValue, CopyBack::OnOk,
-                                             [](CSystemScaleDlg& dlg) { dlg.setAddMode(true); });
+    return runSettingDialog<CSystemScaleDlg>(
+        setting, &resetValue,
+        SProtocol<CSystemScaleDlg>{CopyBack::OnOk, [](CSystemScaleDlg& dlg) { dlg.setAddMode(true); }});
 }
 
 bool doLineWidthDlg(setting::CLineWidthSetting& setting, const setting::CLineWidthSetting& defaults,
                     IDataBase* db)
 {
-    framework::ResourceSwitch resources(libraryResourceHandle());
-    CLineWidthDlg dialog;
-    dialog.workingSetting() = setting;
-    dialog.resetSetting() = defaults;
-    dialog.setDataBase(db);
-    const int result = dialog.DoModal();
-    resources.restore();
-    if (result != framework::IDOK)
-        return false;
+    SProtocol<CLineWidthDlg> protocol{CopyBack::OnOk,
+                                      [db](CLineWidthDlg& dlg) { dlg.setDataBase(db); }, {}};
     if (db)
-        db->recordChange(linewidthtable::kChangeLabel);
-    setting = dialog.workingSetting();
-    return true;
+        protocol.afterOk = [db](CLineWidthDlg&) { db->recordChange(linewidthrules::kChangeLabel); };
+    return runSettingDialog<CLineWidthDlg>(setting, &defaults, protocol);
 }
 
 bool doPaperSizeDlg(setting::CSystemPaperSizeSetting& setting,

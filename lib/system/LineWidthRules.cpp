@@ -1,34 +1,12 @@
 #include "system/LineWidthRules.h"
 
 #include "setting/SystemColorSetting.h"
-#include "utility/NumberFormat.h"
 
 #include <algorithm>
 
-namespace kesto::ui::config::linewidthtable {
+namespace kesto::ui::config::linewidthrules {
 
 using setting::SLineWidth;
-
-SButtonStates buttonStates(bool drawingTab, const std::vector<SLineWidth>& widths, int selectedRow)
-{
-    SButtonStates s;
-    s.addEnabled = !drawingTab;
-    s.resetEnabled = !drawingTab;
-    s.registerVisible = drawingTab;
-    s.registerEnabled = drawingTab && selectedRow >= 0;
-    const int count = static_cast<int>(widths.size());
-    if (drawingTab || selectedRow < 0 || selectedRow >= count)
-        return s;
-    auto isDefault = [&](int row) {
-        return widths[static_cast<std::size_t>(row)].isSystemDefault();
-    };
-    if (isDefault(selectedRow))
-        return s;
-    s.insertEnabled = s.deleteEnabled = true;
-    s.upEnabled = selectedRow > 0 && !isDefault(selectedRow - 1);
-    s.downEnabled = selectedRow < count - 1 && !isDefault(selectedRow + 1);
-    return s;
-}
 
 SLineWidth newEntry(std::uint32_t backgroundRgb)
 {
@@ -46,29 +24,11 @@ QString markText(const SLineWidth& width)
     return width.isSystemDefault() ? QStringLiteral("*") : QString();
 }
 
-std::optional<double> readWidth(const QString& text)
+bool widthTaken(const std::vector<SLineWidth>& widths, double width, const SLineWidth* except)
 {
-    const std::optional<double> typed = utility::parseDecimal(text);
-    if (!typed)
-        return std::nullopt;
-    const double stored = utility::roundToDecimals(*typed, 3);
-    if (!(stored > 0.0))
-        return std::nullopt;
-    return stored;
-}
-
-bool widthTakenByOther(const std::vector<SLineWidth>& widths, int row, double width)
-{
-    for (std::size_t i = 0; i < widths.size(); ++i) {
-        if (static_cast<int>(i) != row && widths[i].hasWidth(width))
-            return true;
-    }
-    return false;
-}
-
-bool containsWidth(const std::vector<SLineWidth>& widths, double width)
-{
-    return widthTakenByOther(widths, -1, width);
+    return std::any_of(widths.begin(), widths.end(), [&](const SLineWidth& w) {
+        return &w != except && w.getWidth() == width;
+    });
 }
 
 KsColor colorOfRgb(std::uint32_t rgb, const setting::ISystemColorSetting* system)
@@ -76,6 +36,30 @@ KsColor colorOfRgb(std::uint32_t rgb, const setting::ISystemColorSetting* system
     if (const KsColor* known = system ? system->findByRGB(rgb) : nullptr)
         return KsColor(known->getRGB(), KsColor::System, known->getName());
     return KsColor(rgb, KsColor::User);
+}
+
+bool takeColor(SLineWidth& width, std::uint32_t rgb, const setting::ISystemColorSetting* system)
+{
+    const KsColor chosen = colorOfRgb(rgb, system);
+    if (width.getColor() == chosen.getRGB() && width.getColorType() == chosen.getColorType()
+        && width.getColorName() == chosen.getName())
+        return false;
+    width.setColor(chosen.getRGB());
+    width.setColorType(chosen.getColorType());
+    width.setColorName(chosen.getName());
+    return true;
+}
+
+bool takeColor(SDrawingWidth& width, std::uint32_t rgb, const setting::ISystemColorSetting* system)
+{
+    if ((rgb & 0xFFFFFFu) == width.value.getColor())
+        return false;
+    const KsColor chosen = colorOfRgb(rgb, system);
+    width.value.setColor(chosen.getRGB());
+    width.value.setColorType(chosen.getColorType());
+    width.value.setColorName(chosen.getName());
+    width.edited = true;
+    return true;
 }
 
 SLineWidth fromDrawingWidth(const KsLineWidth& width)
@@ -98,4 +82,4 @@ int indexOfWidthName(const QStringList& names, double width)
     return static_cast<int>(names.indexOf(QString::fromStdWString(KsLineWidth::makeName(width))));
 }
 
-} // namespace kesto::ui::config::linewidthtable
+} // namespace kesto::ui::config::linewidthrules

@@ -105,7 +105,7 @@ void CPaperFrameDiagram::setLineNames(const QString& drawFrame, const QString& i
 
 QString CPaperFrameDiagram::labelOf(int dimension) const
 {
-    const QString letter = papertable::frame::dimensionLetter(dimension);
+    const QString letter = paperrules::frame::dimensionLetter(dimension);
     if (!m_frame)
         return letter;
     return QStringLiteral("%1=%2").arg(letter).arg(m_frame->dimensions[dimension]);

@@ -1,49 +1,49 @@
 #include "system/SystemScaleDlg.h"
 
-#include "control/KsListCtrl.h"
 #include "core/Application.h"
 #include "db/IDataBase.h"
-#include "framework/HandlerGuard.h"
 #include "framework/MessageBox.h"
 #include "res/SystemResource.h"
-#include "system/SystemScaleRules.h"
+#include "system/ScaleRules.h"
 #include "system/TableTabs.h"
 #include "types/KsScale.h"
 
-#include <QPushButton>
 #include <QTabBar>
 
 namespace kesto::ui::config {
 
 using namespace res;
-using framework::guardHandler;
 using framework::loadString;
+using setting::CSystemScaleSetting;
 using setting::SSystemScale;
+namespace rules = scalerules;
 
 namespace {
-const char* const kClass = "CSystemScaleDlg";
 
-std::vector<SSystemScale> scalesOfCurrentDrawing(bool& hasDrawing)
+const IDataBase* currentDrawing()
+{
+    const core::CSystemConfig* config = core::Application::getInstance()->getSystemConfig();
+    return config ? config->getCurrentDataBase() : nullptr;
+}
+
+std::vector<SSystemScale> scalesOf(const IDataBase& db)
 {
     std::vector<SSystemScale> scales;
-    const core::CSystemConfig* config = core::Application::getInstance()->getSystemConfig();
-    const IDataBase* db = config ? config->getCurrentDataBase() : nullptr;
-    hasDrawing = db != nullptr;
-    if (!db)
-        return scales;
-    for (const KsScale* scale : db->elementsOf<KsScale>(L"SCALE"))
+    for (const KsScale* scale : db.elementsOf<KsScale>(L"SCALE"))
         scales.push_back({scale->getName(), scale->getNumerator(), scale->getDenominator()});
     return scales;
 }
 
-std::vector<control::SListRow> rowsOf(const std::vector<SSystemScale>& scales)
+// A typed value is stored with six decimals, and the scale is named after its values.
+std::optional<double> keepTyped(SSystemScale& scale, double SSystemScale::*field, double typed)
 {
-    std::vector<control::SListRow> rows;
-    rows.reserve(scales.size());
-    for (const SSystemScale& scale : scales)
-        rows.emplace_back(scaletable::rowTexts(scale));
-    return rows;
+    const double stored = rules::storedValue(typed);
+    SSystemScale renamed = scale;
+    renamed.*field = stored;
+    scale.name = rules::nameOf(renamed.numerator, renamed.denominator);
+    return stored;
 }
+
 } // namespace
 
 CSystemScaleDlg::CSystemScaleDlg()
@@ -51,48 +51,66 @@ CSystemScaleDlg::CSystemScaleDlg()
 {
     setPlacementKey(QStringLiteral("SystemScaleDlg"));
     keepFirstSizeAsMinimum(true);
-    m_tab = dlgItem<QTabBar>(IDC_TAB);
-    m_list = dlgItem<control::CKsListCtrl>(IDC_LIST);
 }
 
-CSystemScaleDlg::~CSystemScaleDlg()
-{
-    if (m_list)
-        m_list->detach(this);
-}
+CSystemScaleDlg::~CSystemScaleDlg() = default;
 
 bool CSystemScaleDlg::OnInitDialog()
 {
-    return guardHandler(kClass, "OnInitDialog", [&] {
+    return guarded([&] {
+        m_tab = dlgItem<QTabBar>(IDC_TAB);
+        m_list = dlgItem<control::CKsListCtrl>(IDC_LIST);
         if (!m_tab || !m_list)
             return false;
-        m_scales = m_setting.getSystemScales();
-        m_drawingScales = scalesOfCurrentDrawing(m_hasDrawing);
         equalizeWidths({IDC_ADD, IDC_INSERT, IDC_DELETE, IDC_RESET, IDC_REGISTER_SYSTEM});
-        setupTableTabs(*m_tab, m_hasDrawing);
-        setupList();
+        m_table = std::make_unique<TTableEditor<SSystemScale>>(
+            *this, *m_list, STableButtonIds{IDC_ADD, IDC_INSERT, IDC_DELETE},
+            TTableEditor<SSystemScale>::SRules{&rules::newScale, {}});
+        m_drawingScales = new control::TRecordTableModel<SSystemScale>(this);
+        addColumns(m_table->model(), true);
+        addColumns(*m_drawingScales, false);
+        const IDataBase* drawing = currentDrawing();
+        if (drawing)
+            m_drawingScales->setRows(scalesOf(*drawing));
+        setupTableTabs(*m_tab, drawing != nullptr);
+        m_table->show();
+        m_binding.field(
+            m_list,
+            [this](auto&, const CSystemScaleSetting& s) { m_table->setRows(s.getSystemScales()); },
+            [this](auto&, CSystemScaleSetting& s) {
+                std::vector<SSystemScale> scales = m_table->model().rows();
+                rules::alignNames(scales);
+                s.setSystemScales(scales);
+            });
         connect(m_tab, &QTabBar::currentChanged, this, [this] { OnTcnSelchangeTab(); });
-        onClicked(IDC_ADD, [this] { OnBnClickedAdd(); });
-        onClicked(IDC_INSERT, [this] { OnBnClickedInsert(); });
-        onClicked(IDC_DELETE, [this] { OnBnClickedDelete(); });
+        connect(m_list, &control::CKsListCtrl::selectedRowChanged, this,
+                [this] { refreshButtons(); });
         onClicked(IDC_RESET, [this] { OnBnClickedReset(); });
         onClicked(IDC_REGISTER_SYSTEM, [this] { OnBnClickedRegister(); });
         onClicked(IDC_HELP, [this] { OnBnClickedHelp(); });
-        fillList();
+        fillControls();
+        refreshButtons();
         return true;
     });
 }
 
-void CSystemScaleDlg::setupList()
+// Columns of 100 at least, fitted to their texts when the tab is shown.
+void CSystemScaleDlg::addColumns(control::TRecordTableModel<SSystemScale>& model, bool editable)
 {
-    using control::EColumnType;
-    const Qt::Alignment right = Qt::AlignRight;
-    m_list->addColumn(loadString(IDS_SCALE_COLUMN_NAME), 100, EColumnType::Text, Qt::AlignLeft,
-                      false);
-    m_list->addColumn(loadString(IDS_SCALE_COLUMN_NUMERATOR), 100, EColumnType::Text, right);
-    m_list->addColumn(loadString(IDS_SCALE_COLUMN_DENOMINATOR), 100, EColumnType::Text, right);
-    m_list->attach(this);
-    connect(m_list, &control::CKsListCtrl::selectedRowChanged, this, [this] { refreshButtons(); });
+    namespace columns = control::columns;
+    model.addColumn(columns::text<SSystemScale>(loadString(IDS_SCALE_COLUMN_NAME), 100,
+                                                &SSystemScale::name, false));
+    const std::pair<int, double SSystemScale::*> values[] = {
+        {IDS_SCALE_COLUMN_NUMERATOR, &SSystemScale::numerator},
+        {IDS_SCALE_COLUMN_DENOMINATOR, &SSystemScale::denominator}};
+    for (const auto& [title, field] : values) {
+        auto column = columns::real<SSystemScale>(
+            loadString(title), 100, field, &rules::shownValue,
+            [field = field](SSystemScale& scale, double typed) { return keepTyped(scale, field, typed); });
+        if (!editable)
+            column.read = nullptr;
+        model.addColumn(std::move(column));
+    }
 }
 
 bool CSystemScaleDlg::onDrawingTab() const
@@ -100,103 +118,58 @@ bool CSystemScaleDlg::onDrawingTab() const
     return m_tab->currentIndex() == TabDrawing;
 }
 
-void CSystemScaleDlg::fillList()
-{
-    const bool drawing = onDrawingTab();
-    m_list->setRows(rowsOf(drawing ? m_drawingScales : m_scales));
-    m_list->setEditable(!drawing);
-    for (int column = 0; column < m_list->getColumnCount(); ++column) {
-        m_list->fitColumnToContents(column);
-        m_list->setColumnWidth(column, std::max(m_list->columnWidth(column), 100));
-    }
-    refreshButtons();
-}
-
 void CSystemScaleDlg::refreshButtons()
 {
     const auto states =
-        scaletable::buttonStates(onDrawingTab(), m_addMode, m_list->getSelectedRow() >= 0);
-    auto apply = [this](int id, bool visible, bool enabled) {
-        if (QWidget* button = GetDlgItem(id)) {
+        rules::buttonStates(onDrawingTab(), m_addMode, m_list->getSelectedRow() >= 0);
+    auto show = [this](int id, bool visible) {
+        if (QWidget* button = GetDlgItem(id))
             button->setVisible(visible);
-            button->setEnabled(enabled);
-        }
     };
-    apply(IDC_ADD, true, states.addEnabled);
-    apply(IDC_INSERT, states.insertVisible, states.insertEnabled);
-    apply(IDC_DELETE, states.deleteVisible, states.deleteEnabled);
-    apply(IDC_REGISTER_SYSTEM, states.registerVisible, states.registerEnabled);
-    apply(IDC_RESET, states.resetVisible, true);
+    show(IDC_INSERT, states.insertVisible);
+    show(IDC_DELETE, states.deleteVisible);
+    show(IDC_RESET, states.resetVisible);
+    show(IDC_REGISTER_SYSTEM, states.registerVisible);
+    if (QWidget* button = GetDlgItem(IDC_REGISTER_SYSTEM))
+        button->setEnabled(states.registerEnabled);
+    m_table->setEditable(!onDrawingTab());
 }
 
 void CSystemScaleDlg::OnTcnSelchangeTab()
 {
-    guardHandler(kClass, "OnTcnSelchangeTab", [&] { fillList(); });
-}
-
-void CSystemScaleDlg::OnBnClickedAdd()
-{
-    guardHandler(kClass, "OnBnClickedAdd", [&] {
+    guarded([&] {
         if (onDrawingTab())
-            return;
-        m_scales.push_back(scaletable::newScale());
-        const int row = m_list->addRow(scaletable::rowTexts(m_scales.back()));
-        m_list->selectRow(row);
-        m_added = true;
-        refreshButtons();
-    });
-}
-
-void CSystemScaleDlg::OnBnClickedInsert()
-{
-    guardHandler(kClass, "OnBnClickedInsert", [&] {
-        const int row = m_list->getSelectedRow();
-        if (onDrawingTab() || row < 0)
-            return;
-        m_scales.insert(m_scales.begin() + row, scaletable::newScale());
-        m_list->insertRow(row, control::SListRow(scaletable::rowTexts(m_scales[row])));
-        m_list->selectRow(row);
-        refreshButtons();
-    });
-}
-
-void CSystemScaleDlg::OnBnClickedDelete()
-{
-    guardHandler(kClass, "OnBnClickedDelete", [&] {
-        const int row = m_list->getSelectedRow();
-        if (onDrawingTab() || row < 0)
-            return;
-        m_scales.erase(m_scales.begin() + row);
-        m_list->removeRowAndSelectNext(row);
+            m_list->setTableModel(m_drawingScales);
+        else
+            m_table->show();
+        for (int column = 0; column < m_list->getColumnCount(); ++column) {
+            m_list->fitColumnToContents(column);
+            m_list->setColumnWidth(column, std::max(m_list->columnWidth(column), 100));
+        }
         refreshButtons();
     });
 }
 
 void CSystemScaleDlg::OnBnClickedReset()
 {
-    guardHandler(kClass, "OnBnClickedReset", [&] {
-        m_setting = m_resetSetting;
-        m_scales = m_setting.getSystemScales();
-        m_list->clearSelection();
-        fillList();
-    });
+    guarded([&] { resetToDefaults(); });
 }
 
 void CSystemScaleDlg::OnBnClickedRegister()
 {
-    guardHandler(kClass, "OnBnClickedRegister", [&] {
+    guarded([&] {
         const int row = m_list->getSelectedRow();
-        if (m_addMode || !onDrawingTab() || row < 0
-            || row >= static_cast<int>(m_drawingScales.size()))
+        if (m_addMode || !onDrawingTab() || !m_drawingScales->isValidRow(row))
             return;
-        const SSystemScale& picked = m_drawingScales[static_cast<std::size_t>(row)];
-        if (scaletable::containsSame(m_scales, picked.numerator, picked.denominator)) {
+        const SSystemScale& picked = m_drawingScales->row(row);
+        auto& scales = m_table->model();
+        if (rules::containsSame(scales.rows(), picked.numerator, picked.denominator)) {
             framework::MessageBox(this, loadString(IDS_SAME_SCALE_EXISTS),
                                   loadString(IDS_CAPTION_INPUT_ERROR),
                                   framework::MB_OK | framework::MB_ICONWARNING);
             return;
         }
-        m_scales.push_back(picked);
+        scales.insertRecord(scales.rowCount(), picked);
     });
 }
 
@@ -205,50 +178,16 @@ void CSystemScaleDlg::OnBnClickedHelp()
     core::Application::getInstance()->OpenHtmlHelp(QStringLiteral("DLG_HLP_SYS_SCALE"));
 }
 
-void CSystemScaleDlg::update(kesto::Subject* subject, int event, void* data)
-{
-    const auto* change = control::cellChangeOf(event, data);
-    if (subject != m_list || !change)
-        return;
-    onCellChanged(change->row, change->column, change->text);
-}
-
-// A typed value is stored with six decimals and shown again as stored; anything that is not
-// a number above zero is refused and the cell gets its stored value back.
-void CSystemScaleDlg::onCellChanged(int row, int column, const QString& text)
-{
-    guardHandler(kClass, "OnEndEditList", [&] {
-        if (onDrawingTab() || row < 0 || row >= static_cast<int>(m_scales.size())
-            || (column != scaletable::ColumnNumerator && column != scaletable::ColumnDenominator))
-            return;
-        SSystemScale& scale = m_scales[static_cast<std::size_t>(row)];
-        double& field = column == scaletable::ColumnNumerator ? scale.numerator : scale.denominator;
-        const std::optional<double> value = scaletable::readCellValue(text);
-        if (value) {
-            field = *value;
-            scale.name = KsScale::makeName(scale.numerator, scale.denominator);
-        }
-        m_list->setCellText(row, column, scaletable::formatCellValue(field));
-        m_list->setCellText(row, scaletable::ColumnName, QString::fromStdWString(scale.name));
-        if (!value) {
-            const QString what = m_list->model()->headerData(column, Qt::Horizontal).toString();
-            framework::MessageBox(
-                this, framework::formatString(IDS_SCALE_VALUE_NOT_POSITIVE, {row + 1, what}),
-                loadString(IDS_CAPTION_INPUT_ERROR), framework::MB_OK | framework::MB_ICONWARNING);
-        }
-    });
-}
-
+// In add mode, an OK without a new scale is a cancel; the names follow the values.
 void CSystemScaleDlg::OnOK()
 {
-    guardHandler(kClass, "OnOK", [&] {
-        if (m_addMode && !m_added) {
+    guarded([&] {
+        if (m_addMode && !m_table->hasAdded()) {
             EndDialog(framework::IDCANCEL);
             return;
         }
-        scaletable::alignNames(m_scales);
-        m_setting.setSystemScales(m_scales);
-        EndDialog(framework::IDOK);
+        if (storeControls())
+            EndDialog(framework::IDOK);
     });
 }
 

@@ -1,24 +1,18 @@
 #pragma once
 
 #include "config/ModalProtocol.h"
-#include "observer/Subject.h"
+#include "config/TableEditor.h"
 #include "setting/SystemScaleSetting.h"
 
-#include <vector>
+#include <memory>
 
-class QPushButton;
 class QTabBar;
-
-namespace kesto::ui::control {
-class CKsListCtrl;
-}
 
 namespace kesto::ui::config {
 
 // "スケールの設定": the system scales, and the open drawing's scales from which one can be
 // registered into the system list.
-class CSystemScaleDlg : public TSettingDialog<setting::CSystemScaleSetting>,
-                        public kesto::IObserver {
+class CSystemScaleDlg : public TSettingDialog<setting::CSystemScaleSetting> {
     Q_OBJECT
 
 public:
@@ -30,35 +24,25 @@ public:
     // In add mode an OK without "追加" ends as a cancel.
     void setAddMode(bool addMode) { m_addMode = addMode; }
 
-    void update(kesto::Subject* subject, int event, void* data) override;
-
 protected:
     bool OnInitDialog() override;
     void OnOK() override;
 
 private:
-    void setupList();
-    void fillList();
+    void addColumns(control::TRecordTableModel<setting::SSystemScale>& model, bool editable);
     void refreshButtons();
     bool onDrawingTab() const;
 
     void OnTcnSelchangeTab();
-    void OnBnClickedAdd();
-    void OnBnClickedInsert();
-    void OnBnClickedDelete();
     void OnBnClickedReset();
     void OnBnClickedRegister();
     void OnBnClickedHelp();
-    void onCellChanged(int row, int column, const QString& text);
 
     bool m_addMode = false;
-    bool m_added = false;
-    std::vector<setting::SSystemScale> m_scales;
-    std::vector<setting::SSystemScale> m_drawingScales;
-    bool m_hasDrawing = false;
-
     QTabBar* m_tab = nullptr;
     control::CKsListCtrl* m_list = nullptr;
+    std::unique_ptr<TTableEditor<setting::SSystemScale>> m_table;
+    control::TRecordTableModel<setting::SSystemScale>* m_drawingScales = nullptr;
 };
 
 } // namespace kesto::ui::config

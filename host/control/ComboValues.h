@@ -1,5 +1,6 @@
 #pragma once
 
+#include "control/ArrowComboBox.h"
 #include "control/SelectLineWidthComboBox.h"
 #include "control/SystemColorComboBox.h"
 #include "control/SystemLineTypeComboBox.h"
@@ -49,6 +50,25 @@ struct ControlValue<control::SelectLineWidthComboBox> {
     static void write(control::SelectLineWidthComboBox& c, const KsLineWidth& width)
     {
         c.selectLineWidth(width);
+    }
+};
+
+// A line end by name: the whole name if the list has it, else the first entry that begins
+// with it; a name the list lacks shows nothing and is kept.
+template <>
+struct ControlValue<control::CArrowComboBox> {
+    static std::optional<std::wstring> read(const control::CArrowComboBox& c)
+    {
+        return c.currentIndex() < 0 ? std::nullopt
+                                    : std::optional<std::wstring>(c.currentText().toStdWString());
+    }
+    static void write(control::CArrowComboBox& c, const std::wstring& name)
+    {
+        const QString text = QString::fromStdWString(name);
+        const int exact = c.findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+        c.setCurrentIndex(exact);
+        if (exact < 0)
+            c.SelectString(text);
     }
 };
 

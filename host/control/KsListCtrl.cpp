@@ -53,14 +53,23 @@ void CKsListCtrl::setTableModel(CKsTableModel* model)
     if (m_model)
         m_model->setEditCallback({});
     disconnect(m_selectionConnection);
+    disconnect(m_columnsConnection);
     m_model = model;
     setModel(model);
-    for (int column = 0; column < model->columnCount(); ++column)
-        setColumnWidth(column, model->column(column).width);
+    applyColumnWidths(0, model->columnCount() - 1);
+    m_columnsConnection = connect(
+        model, &QAbstractItemModel::columnsInserted, this,
+        [this](const QModelIndex&, int first, int last) { applyColumnWidths(first, last); });
     model->setEditCallback([this](const SListCellEvent& e) { onUserEdit(e); });
     m_selectionConnection = connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
                                     &CKsListCtrl::onSelectionChanged);
     onSelectionChanged();
+}
+
+void CKsListCtrl::applyColumnWidths(int first, int last)
+{
+    for (int column = first; column <= last; ++column)
+        setColumnWidth(column, m_model->column(column).width);
 }
 
 int CKsListCtrl::addColumn(const QString& title, int width, EColumnType type,

@@ -87,6 +87,7 @@ signals:
     void cellEdited(int row, int column);
 
 private:
+    void applyColumnWidths(int first, int last);
     void onUserEdit(const SListCellEvent& event);
     void onSelectionChanged();
     void editColorCell(const QModelIndex& index);
@@ -95,6 +96,7 @@ private:
     CKsListModel* m_textModel;
     CKsTableModel* m_model;
     QMetaObject::Connection m_selectionConnection;
+    QMetaObject::Connection m_columnsConnection;
 };
 
 } // namespace kesto::ui::control

@@ -83,6 +83,22 @@ public:
             });
     }
 
+    // A field that is a data member of the record.
+    template <class Control, class T>
+    TDialogBinding& value(Control* control, T Record::*member)
+    {
+        return value(control, member, [member](Record& r, const T& v) { r.*member = v; });
+    }
+
+    // A field that is one element of an array member of the record.
+    template <class Control, class Array>
+    TDialogBinding& element(Control* control, Array Record::*array, std::size_t index)
+    {
+        return value(
+            control, [array, index](const Record& r) { return (r.*array)[index]; },
+            [array, index](Record& r, const auto& v) { (r.*array)[index] = v; });
+    }
+
     // A field shown by a row of radio buttons: the value is the index of the checked one
     // (-1 for none); a value outside the row unchecks them all.
     template <class Get, class Set>
@@ -103,8 +119,8 @@ public:
     // A check of the record as OK would store it, reported at the last declared field.
     TDialogBinding& check(Check check)
     {
-        m_checks.push_back({m_fields.empty() ? nullptr : m_fields.back().control.data(),
-                            std::move(check)});
+        m_checks.push_back(
+            {m_fields.empty() ? nullptr : m_fields.back().control.data(), std::move(check)});
         return *this;
     }
 

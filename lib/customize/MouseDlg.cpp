@@ -5,7 +5,6 @@
 #include "customize/RightBtnPage.h"
 #include "customize/SimplePage.h"
 #include "customize/WheelPage.h"
-#include "framework/HandlerGuard.h"
 #include "framework/MessageBox.h"
 #include "res/CustomizeResource.h"
 
@@ -16,17 +15,15 @@
 namespace kesto::ui::config {
 
 using namespace res;
-using framework::guardHandler;
 using framework::loadString;
 using setting::CMouseSetting;
 
 namespace {
-const char* const kClass = "CMouseDlg";
 const QString kRegistryName = QStringLiteral("MouseDlg");
 
-bool isThreeDimensional(mouse::EPage page)
+bool isThreeDimensional(mouserules::EPage page)
 {
-    return page >= mouse::Right3D;
+    return page >= mouserules::Right3D;
 }
 } // namespace
 
@@ -44,12 +41,12 @@ CMouseDlg::~CMouseDlg()
 
 void CMouseDlg::loadMouseCommands(const std::wstring& path)
 {
-    m_mouseCommands = mouse::readMouseCommands(path);
+    m_mouseCommands = mouserules::readMouseCommands(path);
 }
 
 bool CMouseDlg::OnInitDialog()
 {
-    return guardHandler(kClass, "OnInitDialog", [&] {
+    return guarded([&] {
         m_viewTab = dlgItem<QTabBar>(IDC_VIEW_TAB);
         m_buttonTab = dlgItem<QTabBar>(IDC_BUTTON_TAB);
         if (!m_viewTab || !m_buttonTab || !createPages()) {
@@ -58,7 +55,8 @@ bool CMouseDlg::OnInitDialog()
             return false;
         }
         setupViewTabs();
-        loadPages();
+        bindPages();
+        fillControls();
         connect(m_viewTab, &QTabBar::currentChanged, this, [this] { OnTcnSelchangeViewTab(); });
         connect(m_buttonTab, &QTabBar::currentChanged, this, [this] { OnTcnSelchangeButtonTab(); });
         onClicked(IDC_RESET, [this] { OnBnClickedReset(); });
@@ -77,17 +75,17 @@ bool CMouseDlg::createPages()
     if (!area)
         return false;
     auto* stack = new QStackedLayout(area);
-    m_pages[mouse::Right2D] = new CRightBtnPage(area);
-    m_pages[mouse::Both2D] = new CRLBtnPage(area);
-    m_pages[mouse::Wheel2D] = new CWheelPage(area);
+    m_pages[mouserules::Right2D] = new CRightBtnPage(area);
+    m_pages[mouserules::Both2D] = new CRLBtnPage(area);
+    m_pages[mouserules::Wheel2D] = new CWheelPage(area);
     if (!m_twoDimensionalOnly) {
-        m_pages[mouse::Right3D] = new CRightBtnPage(area);
-        m_pages[mouse::Left3D] = createSimplePage(IDS_MOUSE_LEFT_PAGE_CAPTIONS);
-        m_pages[mouse::Both3D] = createSimplePage(IDS_MOUSE_BOTH_PAGE_CAPTIONS);
-        m_pages[mouse::Wheel3D] = createSimplePage(IDS_MOUSE_WHEEL_PAGE_CAPTIONS);
+        m_pages[mouserules::Right3D] = new CRightBtnPage(area);
+        m_pages[mouserules::Left3D] = createSimplePage(IDS_MOUSE_LEFT_PAGE_CAPTIONS);
+        m_pages[mouserules::Both3D] = createSimplePage(IDS_MOUSE_BOTH_PAGE_CAPTIONS);
+        m_pages[mouserules::Wheel3D] = createSimplePage(IDS_MOUSE_WHEEL_PAGE_CAPTIONS);
     }
-    const auto* view2D = mouse::findViewCommands(m_mouseCommands, CMouseSetting::k2DView);
-    const auto* view3D = mouse::findViewCommands(m_mouseCommands, CMouseSetting::k3DView);
+    const auto* view2D = mouserules::findViewCommands(m_mouseCommands, CMouseSetting::k2DView);
+    const auto* view3D = mouserules::findViewCommands(m_mouseCommands, CMouseSetting::k3DView);
     for (std::size_t i = 0; i < m_pages.size(); ++i) {
         CMousePage* page = m_pages[i];
         if (!page)
@@ -95,7 +93,7 @@ bool CMouseDlg::createPages()
         if (!page->hasLayout())
             return false;
         page->setCommands(m_commands,
-                          isThreeDimensional(static_cast<mouse::EPage>(i)) ? view3D : view2D);
+                          isThreeDimensional(static_cast<mouserules::EPage>(i)) ? view3D : view2D);
         stack->addWidget(page);
     }
     return true;
@@ -111,7 +109,7 @@ CSimplePage* CMouseDlg::createSimplePage(int captionsId)
 // One view tab; the three-dimensional pages are reached only through a second view tab.
 void CMouseDlg::setupViewTabs()
 {
-    mouse::SViewNames names;
+    mouserules::SViewNames names;
     bool red = false;
     core::IMainFrame::EFrameMode mode = core::IMainFrame::FrameMode2D;
     if (const core::IMainFrame* frame = core::Application::getInstance()->getMainFrame()) {
@@ -121,7 +119,7 @@ void CMouseDlg::setupViewTabs()
     }
     m_fillingTabs = true;
     m_viewTab->setExpanding(false);
-    m_viewTab->addTab(mouse::viewTabCaption(names, red, mode));
+    m_viewTab->addTab(mouserules::viewTabCaption(names, red, mode));
     m_buttonTab->setExpanding(false);
     m_fillingTabs = false;
     fillButtonTabs();
@@ -132,54 +130,66 @@ void CMouseDlg::fillButtonTabs()
     m_fillingTabs = true;
     while (m_buttonTab->count() > 0)
         m_buttonTab->removeTab(0);
-    for (const QString& caption : mouse::buttonTabCaptions(m_viewTab->currentIndex()))
+    for (const QString& caption : mouserules::buttonTabCaptions(m_viewTab->currentIndex()))
         m_buttonTab->addTab(caption);
     m_buttonTab->setCurrentIndex(0);
     m_fillingTabs = false;
 }
 
-void CMouseDlg::loadPages()
+// Each page moves its view's fields; the 3-D radio pages are one choice each.
+void CMouseDlg::bindPages()
 {
-    if (const setting::SMouseSetting* view = m_setting.getMouseSetting(CMouseSetting::k2DView)) {
-        for (mouse::EPage p : {mouse::Right2D, mouse::Both2D, mouse::Wheel2D})
-            m_pages[p]->loadFrom(*view);
+    const wchar_t* views[] = {CMouseSetting::k2DView, CMouseSetting::k3DView};
+    for (std::size_t p = 0; p < m_pages.size(); ++p) {
+        const auto page = static_cast<mouserules::EPage>(p);
+        if (!m_pages[p] || page == mouserules::Left3D || page == mouserules::Both3D
+            || page == mouserules::Wheel3D)
+            continue;
+        const wchar_t* name = views[isThreeDimensional(page) ? 1 : 0];
+        m_binding.field(
+            m_pages[p],
+            [name](CMousePage& pg, const CMouseSetting& s) {
+                if (const setting::SMouseSetting* view = s.getMouseSetting(name))
+                    pg.loadFrom(*view);
+            },
+            [name](const CMousePage& pg, CMouseSetting& s) {
+                if (setting::SMouseSetting* view = s.getMouseSetting(name))
+                    pg.storeTo(*view);
+            });
     }
-    const setting::SMouseSetting* view = m_setting.getMouseSetting(CMouseSetting::k3DView);
-    if (!view || m_twoDimensionalOnly)
+    if (m_twoDimensionalOnly)
         return;
-    m_pages[mouse::Right3D]->loadFrom(*view);
-    const mouse::S3DControls c = mouse::load3D(*view);
-    static_cast<CSimplePage*>(m_pages[mouse::Left3D])->chooseFirst(c.leftRotates);
-    static_cast<CSimplePage*>(m_pages[mouse::Both3D])->chooseFirst(c.bothScrolls);
-    static_cast<CSimplePage*>(m_pages[mouse::Wheel3D])->chooseFirst(c.wheelStepZooms);
+    bind3DPage(mouserules::Left3D, &mouserules::S3DControls::leftRotates);
+    bind3DPage(mouserules::Both3D, &mouserules::S3DControls::bothScrolls);
+    bind3DPage(mouserules::Wheel3D, &mouserules::S3DControls::wheelStepZooms);
 }
 
-void CMouseDlg::storePages()
+void CMouseDlg::bind3DPage(mouserules::EPage page, bool mouserules::S3DControls::*choice)
 {
-    if (setting::SMouseSetting* view = m_setting.getMouseSetting(CMouseSetting::k2DView)) {
-        for (mouse::EPage p : {mouse::Right2D, mouse::Both2D, mouse::Wheel2D})
-            m_pages[p]->storeTo(*view);
-    }
-    setting::SMouseSetting* view = m_setting.getMouseSetting(CMouseSetting::k3DView);
-    if (!view || m_twoDimensionalOnly)
-        return;
-    m_pages[mouse::Right3D]->storeTo(*view);
-    mouse::S3DControls c;
-    c.leftRotates = static_cast<CSimplePage*>(m_pages[mouse::Left3D])->isFirstChosen();
-    c.bothScrolls = static_cast<CSimplePage*>(m_pages[mouse::Both3D])->isFirstChosen();
-    c.wheelStepZooms = static_cast<CSimplePage*>(m_pages[mouse::Wheel3D])->isFirstChosen();
-    mouse::store3D(c, *view);
+    m_binding.field(
+        static_cast<CSimplePage*>(m_pages[page]),
+        [choice](CSimplePage& pg, const CMouseSetting& s) {
+            if (const setting::SMouseSetting* view = s.getMouseSetting(CMouseSetting::k3DView))
+                pg.chooseFirst(mouserules::load3D(*view).*choice);
+        },
+        [choice](const CSimplePage& pg, CMouseSetting& s) {
+            if (setting::SMouseSetting* view = s.getMouseSetting(CMouseSetting::k3DView)) {
+                mouserules::S3DControls controls = mouserules::load3D(*view);
+                controls.*choice = pg.isFirstChosen();
+                mouserules::store3D(controls, *view);
+            }
+        });
 }
 
 void CMouseDlg::showPage()
 {
-    const mouse::EPage shown =
-        mouse::pageFor(m_viewTab->currentIndex(), m_buttonTab->currentIndex());
+    const mouserules::EPage shown =
+        mouserules::pageFor(m_viewTab->currentIndex(), m_buttonTab->currentIndex());
     for (std::size_t i = 0; i < m_pages.size(); ++i) {
         if (m_pages[i])
             m_pages[i]->setEnabled(i == static_cast<std::size_t>(shown));
     }
-    if (shown == mouse::PageCount || !m_pages[shown])
+    if (shown == mouserules::PageCount || !m_pages[shown])
         return;
     m_shownPage = shown;
     static_cast<QStackedLayout*>(m_pages[shown]->parentWidget()->layout())
@@ -190,7 +200,7 @@ void CMouseDlg::OnTcnSelchangeViewTab()
 {
     if (m_fillingTabs)
         return;
-    guardHandler(kClass, "OnTcnSelchangeViewTab", [&] {
+    guarded([&] {
         fillButtonTabs();
         showPage();
     });
@@ -200,33 +210,24 @@ void CMouseDlg::OnTcnSelchangeButtonTab()
 {
     if (m_fillingTabs)
         return;
-    guardHandler(kClass, "OnTcnSelchangeButtonTab", [&] { showPage(); });
+    guarded([&] { showPage(); });
 }
 
 void CMouseDlg::OnBnClickedReset()
 {
-    guardHandler(kClass, "OnBnClickedReset", [&] {
+    guarded([&] {
         const int answer = framework::MessageBox(
             this, loadString(IDS_MOUSE_RESET_QUESTION), loadString(IDS_MOUSE_RESET_CAPTION),
             framework::MB_OKCANCEL | framework::MB_ICONQUESTION);
         if (answer != framework::IDOK)
             return;
-        m_setting = m_resetSetting;
-        loadPages();
+        resetToDefaults();
     });
 }
 
 void CMouseDlg::OnBnClickedHelp()
 {
-    core::Application::getInstance()->OpenHtmlHelp(mouse::helpTopic(m_shownPage));
-}
-
-void CMouseDlg::OnOK()
-{
-    guardHandler(kClass, "OnOK", [&] {
-        storePages();
-        EndDialog(framework::IDOK);
-    });
+    core::Application::getInstance()->OpenHtmlHelp(mouserules::helpTopic(m_shownPage));
 }
 
 } // namespace kesto::ui::config

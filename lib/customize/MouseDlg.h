@@ -35,20 +35,19 @@ public:
     bool isTwoDimensionalOnly() const { return m_twoDimensionalOnly; }
 
     // A page, or null when it is not built (3-D pages in a two-dimensional-only dialog).
-    CMousePage* page(mouse::EPage page) const { return m_pages[page]; }
-    mouse::EPage shownPage() const { return m_shownPage; }
+    CMousePage* page(mouserules::EPage page) const { return m_pages[page]; }
+    mouserules::EPage shownPage() const { return m_shownPage; }
 
 protected:
     bool OnInitDialog() override;
-    void OnOK() override;
 
 private:
     bool createPages();
     CSimplePage* createSimplePage(int captionsId);
     void setupViewTabs();
     void fillButtonTabs();
-    void loadPages();
-    void storePages();
+    void bindPages();
+    void bind3DPage(mouserules::EPage page, bool mouserules::S3DControls::*choice);
     void showPage();
 
     void OnTcnSelchangeViewTab();
@@ -60,8 +59,8 @@ private:
     std::vector<setting::SMouseCommands> m_mouseCommands;
     bool m_twoDimensionalOnly = false;
     bool m_fillingTabs = false;
-    std::array<CMousePage*, mouse::PageCount> m_pages{};
-    mouse::EPage m_shownPage = mouse::Right2D;
+    std::array<CMousePage*, mouserules::PageCount> m_pages{};
+    mouserules::EPage m_shownPage = mouserules::Right2D;
 
     QTabBar* m_viewTab = nullptr;
     QTabBar* m_buttonTab = nullptr;

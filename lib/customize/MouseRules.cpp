@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-namespace kesto::ui::config::mouse {
+namespace kesto::ui::config::mouserules {
 
 using setting::SMouseSetting;
 
@@ -295,4 +295,4 @@ SMenuButtonStates menuButtonStates(bool commandSelected, int selectedItem, int i
     return s;
 }
 
-} // namespace kesto::ui::config::mouse
+} // namespace kesto::ui::config::mouserules

@@ -18,7 +18,7 @@ class CCommandTable;
 
 // Rules of the mouse settings dialog, free of widgets: the candidate file, tab captions, pages,
 // and the mapping between the setting's codes and the controls.
-namespace kesto::ui::config::mouse {
+namespace kesto::ui::config::mouserules {
 
 // The pages by the tabs that show them.
 enum EPage { Right2D, Both2D, Wheel2D, Right3D, Left3D, Both3D, Wheel3D, PageCount };
@@ -111,4 +111,4 @@ struct SMenuButtonStates {
 };
 SMenuButtonStates menuButtonStates(bool commandSelected, int selectedItem, int itemCount);
 
-} // namespace kesto::ui::config::mouse
+} // namespace kesto::ui::config::mouserules

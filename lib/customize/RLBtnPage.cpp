@@ -27,10 +27,19 @@ CRLBtnPage::CRLBtnPage(QWidget* parent)
     addToolTip(IDC_RIGHT_DOWN, QStringLiteral("right_dn_corner"));
     addToolTip(IDC_SAME_POINT, QStringLiteral("same_point"));
     addToolTip(IDC_RADIO_SECOND, QStringLiteral("smooth_scrl"));
+    std::vector<QAbstractButton*> radios;
     for (int id : kRadioIds) {
-        if (auto* radio = dlgItem<QRadioButton>(id))
-            connect(radio, &QRadioButton::toggled, this, [this] { refreshEnabled(); });
+        radios.push_back(dlgItem<QRadioButton>(id));
+        if (radios.back())
+            connect(radios.back(), &QRadioButton::toggled, this, [this] { refreshEnabled(); });
     }
+    using mouserules::SBothButtonsControls;
+    m_binding.radios(radios, &SBothButtonsControls::radio, [](SBothButtonsControls& c, int radio) {
+        if (radio >= 0)
+            c.radio = radio;
+    });
+    for (std::size_t i = 0; i < std::size(kCornerIds); ++i)
+        m_binding.element(corner(i), &SBothButtonsControls::corners, i);
 }
 
 QComboBox* CRLBtnPage::corner(std::size_t index) const
@@ -41,10 +50,10 @@ QComboBox* CRLBtnPage::corner(std::size_t index) const
 void CRLBtnPage::setCommands(const utility::CCommandTable* commands,
                              const setting::SMouseCommands* candidates)
 {
-    m_candidates = candidates ? mouse::resolveCandidates(candidates->actionCommands, commands)
-                              : std::vector<mouse::SCandidate>();
+    m_candidates = candidates ? mouserules::resolveCandidates(candidates->actionCommands, commands)
+                              : std::vector<mouserules::SCandidate>();
     QStringList names{framework::loadString(IDS_MOUSE_NONE)};
-    for (const mouse::SCandidate& candidate : m_candidates)
+    for (const mouserules::SCandidate& candidate : m_candidates)
         names << candidate.name;
     for (std::size_t i = 0; i < std::size(kCornerIds); ++i) {
         if (QComboBox* combo = corner(i)) {
@@ -56,34 +65,13 @@ void CRLBtnPage::setCommands(const utility::CCommandTable* commands,
 
 void CRLBtnPage::loadFrom(const setting::SMouseSetting& view)
 {
-    const mouse::SBothButtonsControls c = mouse::loadBothButtons(view, m_candidates);
-    if (auto* radio = dlgItem<QRadioButton>(kRadioIds[c.radio]))
-        radio->setChecked(true);
-    for (std::size_t i = 0; i < c.corners.size(); ++i) {
-        if (QComboBox* combo = corner(i))
-            combo->setCurrentIndex(c.corners[i]);
-    }
+    m_binding.fill(mouserules::loadBothButtons(view, m_candidates));
     refreshEnabled();
-}
-
-mouse::SBothButtonsControls CRLBtnPage::controls() const
-{
-    mouse::SBothButtonsControls c;
-    for (int i = 0; i < 3; ++i) {
-        const auto* radio = dlgItem<QRadioButton>(kRadioIds[i]);
-        if (radio && radio->isChecked())
-            c.radio = i;
-    }
-    for (std::size_t i = 0; i < c.corners.size(); ++i) {
-        const QComboBox* combo = corner(i);
-        c.corners[i] = combo ? combo->currentIndex() : 0;
-    }
-    return c;
 }
 
 void CRLBtnPage::storeTo(setting::SMouseSetting& view) const
 {
-    mouse::storeBothButtons(controls(), m_candidates, view);
+    mouserules::storeBothButtons(m_binding.stored({}), m_candidates, view);
 }
 
 // The corners are chosen only while both buttons run commands.

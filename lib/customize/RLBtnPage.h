@@ -1,6 +1,7 @@
 #pragma once
 
 #include "customize/MousePage.h"
+#include "framework/DialogBinding.h"
 
 class QComboBox;
 
@@ -20,11 +21,11 @@ public:
     void storeTo(setting::SMouseSetting& view) const override;
 
 private:
-    mouse::SBothButtonsControls controls() const;
     QComboBox* corner(std::size_t index) const;
     void refreshEnabled();
 
-    std::vector<mouse::SCandidate> m_candidates;
+    std::vector<mouserules::SCandidate> m_candidates;
+    framework::TDialogBinding<mouserules::SBothButtonsControls> m_binding;
 };
 
 } // namespace kesto::ui::config

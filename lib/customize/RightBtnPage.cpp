@@ -1,7 +1,6 @@
 #include "customize/RightBtnPage.h"
 
 #include "command/CommandTable.h"
-#include "framework/HandlerGuard.h"
 #include "res/CustomizeResource.h"
 
 #include <QApplication>
@@ -11,10 +10,8 @@
 namespace kesto::ui::config {
 
 using namespace res;
-using framework::guardHandler;
 
 namespace {
-const char* const kClass = "CRightBtnPage";
 
 int selectedRowOf(const QListWidget* list)
 {
@@ -53,8 +50,8 @@ void CRightBtnPage::setCommands(const utility::CCommandTable* commands,
                                 const setting::SMouseCommands* candidates)
 {
     m_commands = commands;
-    m_candidates = candidates ? mouse::resolveCandidates(candidates->menuCommands, commands)
-                              : std::vector<mouse::SCandidate>();
+    m_candidates = candidates ? mouserules::resolveCandidates(candidates->menuCommands, commands)
+                              : std::vector<mouserules::SCandidate>();
     fillCommandList();
 }
 
@@ -63,8 +60,8 @@ void CRightBtnPage::fillCommandList()
     if (!m_commandList)
         return;
     m_commandList->clear();
-    for (const mouse::SCandidate& candidate : m_candidates)
-        m_commandList->addItem(mouse::commandRowText(candidate.id, candidate.name));
+    for (const mouserules::SCandidate& candidate : m_candidates)
+        m_commandList->addItem(mouserules::commandRowText(candidate.id, candidate.name));
     refreshButtons();
 }
 
@@ -74,7 +71,7 @@ void CRightBtnPage::fillMenuList()
         return;
     m_menuList->clear();
     for (const control::SContextMenuDataItem& item : m_menu.items())
-        m_menuList->addItem(mouse::menuItemRowText(item, m_commands));
+        m_menuList->addItem(mouserules::menuItemRowText(item, m_commands));
     refreshButtons();
 }
 
@@ -129,7 +126,7 @@ std::optional<utility::SCommand> CRightBtnPage::commandToAdd() const
         QApplication::beep();
         return std::nullopt;
     }
-    const mouse::SCandidate& candidate = m_candidates[static_cast<std::size_t>(row)];
+    const mouserules::SCandidate& candidate = m_candidates[static_cast<std::size_t>(row)];
     utility::SCommand command;
     if (!m_commands || !m_commands->GetCommand(candidate.id.c_str(), command)) {
         command.id = candidate.id;
@@ -143,7 +140,7 @@ void CRightBtnPage::refreshButtons()
     if (!m_commandList || !m_menuList)
         return;
     const auto states =
-        mouse::menuButtonStates(selectedCommand() >= 0, selectedItem(), m_menuList->count());
+        mouserules::menuButtonStates(selectedCommand() >= 0, selectedItem(), m_menuList->count());
     const std::pair<int, bool> buttons[] = {
         {IDC_MENU_ADD, states.add},       {IDC_MENU_INSERT, states.insert},
         {IDC_MENU_DELETE, states.remove}, {IDC_MENU_UP, states.up},
@@ -157,31 +154,31 @@ void CRightBtnPage::refreshButtons()
 
 void CRightBtnPage::OnBnClickedAdd()
 {
-    guardHandler(kClass, "OnBnClickedAdd", [&] {
+    guarded([&] {
         const std::optional<utility::SCommand> command = commandToAdd();
         if (!command)
             return;
         m_menu.addButton(*command, 0);
-        m_menuList->addItem(mouse::menuItemRowText(m_menu.items().back(), m_commands));
+        m_menuList->addItem(mouserules::menuItemRowText(m_menu.items().back(), m_commands));
         selectItem(m_menuList->count() - 1);
     });
 }
 
 void CRightBtnPage::OnBnClickedInsert()
 {
-    guardHandler(kClass, "OnBnClickedInsert", [&] {
+    guarded([&] {
         const int pos = selectedItem();
         const std::optional<utility::SCommand> command = pos >= 0 ? commandToAdd() : std::nullopt;
         if (!command || !m_menu.insertButton(pos, *command, 0))
             return;
-        m_menuList->insertItem(pos, mouse::menuItemRowText(*m_menu.getItem(pos), m_commands));
+        m_menuList->insertItem(pos, mouserules::menuItemRowText(*m_menu.getItem(pos), m_commands));
         selectItem(pos);
     });
 }
 
 void CRightBtnPage::OnBnClickedDelete()
 {
-    guardHandler(kClass, "OnBnClickedDelete", [&] {
+    guarded([&] {
         const int pos = selectedItem();
         if (!m_menu.deleteItem(pos))
             return;
@@ -192,7 +189,7 @@ void CRightBtnPage::OnBnClickedDelete()
 
 void CRightBtnPage::OnBnClickedUp()
 {
-    guardHandler(kClass, "OnBnClickedUp", [&] {
+    guarded([&] {
         const int pos = selectedItem();
         if (!m_menu.moveItemPrev(pos))
             return;
@@ -203,7 +200,7 @@ void CRightBtnPage::OnBnClickedUp()
 
 void CRightBtnPage::OnBnClickedDown()
 {
-    guardHandler(kClass, "OnBnClickedDown", [&] {
+    guarded([&] {
         const int pos = selectedItem();
         if (!m_menu.moveItemNext(pos))
             return;
@@ -214,11 +211,11 @@ void CRightBtnPage::OnBnClickedDown()
 
 void CRightBtnPage::OnBnClickedSeparator()
 {
-    guardHandler(kClass, "OnBnClickedSeparator", [&] {
+    guarded([&] {
         const int pos = selectedItem();
         if (pos < 0 || !m_menu.insertBreak(pos))
             return;
-        m_menuList->insertItem(pos, mouse::menuItemRowText(*m_menu.getItem(pos), m_commands));
+        m_menuList->insertItem(pos, mouserules::menuItemRowText(*m_menu.getItem(pos), m_commands));
         selectItem(pos);
     });
 }
@@ -232,12 +229,12 @@ void CRightBtnPage::update(kesto::Subject* /*subject*/, int event, void* /*data*
 {
     if (event != EVENT_COMMANDS_CHANGED)
         return;
-    guardHandler(kClass, "update", [&] {
+    guarded([&] {
         const int pos = selectedItem();
         std::vector<std::wstring> ids;
-        for (const mouse::SCandidate& candidate : m_candidates)
+        for (const mouserules::SCandidate& candidate : m_candidates)
             ids.push_back(candidate.id);
-        m_candidates = mouse::resolveCandidates(ids, m_commands);
+        m_candidates = mouserules::resolveCandidates(ids, m_commands);
         fillCommandList();
         fillMenuList();
         selectItem(pos);

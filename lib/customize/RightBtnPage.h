@@ -47,7 +47,7 @@ private:
     void OnBnClickedRecent(bool on);
 
     const utility::CCommandTable* m_commands = nullptr;
-    std::vector<mouse::SCandidate> m_candidates;
+    std::vector<mouserules::SCandidate> m_candidates;
     control::CContextMenuData m_menu;
     QListWidget* m_commandList = nullptr;
     QListWidget* m_menuList = nullptr;

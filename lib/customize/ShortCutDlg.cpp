@@ -3,10 +3,10 @@
 #include "command/CommandTable.h"
 #include "command/CommandTree.h"
 #include "control/KsListCtrl.h"
+#include "control/RecordTableModel.h"
 #include "core/Application.h"
 #include "customize/ShortCutEdit.h"
 #include "customize/ShortCutRules.h"
-#include "framework/HandlerGuard.h"
 #include "res/CustomizeResource.h"
 
 #include <QApplication>
@@ -19,12 +19,12 @@
 namespace kesto::ui::config {
 
 using namespace res;
-using framework::guardHandler;
 using framework::loadString;
-using shortcut::SKeyStroke;
+using setting::SShortCut;
+using shortcutrules::SKeyStroke;
+namespace rules = shortcutrules;
 
 namespace {
-const char* const kClass = "CShortCutDlg";
 const QString kRegistryName = QStringLiteral("ShortCutDlg");
 
 // Sets a flag for a scope, so that selection changes made by the dialog itself are not taken
@@ -70,7 +70,7 @@ CShortCutDlg::~CShortCutDlg()
 
 bool CShortCutDlg::OnInitDialog()
 {
-    return guardHandler(kClass, "OnInitDialog", [&] {
+    return guarded([&] {
         if (!m_tree || !m_edit || !m_currentKeys || !m_allKeys || !m_owner)
             return false;
         helper::setupCommandTree(*m_tree, m_commands, helper::SCT_SHORTCUT, m_frameMode);
@@ -104,23 +104,30 @@ void CShortCutDlg::indexTree()
     }
 }
 
+// Rows are the working copy's bindings; the texts are their views.
 void CShortCutDlg::setupLists()
 {
     using control::EColumnType;
+    namespace columns = control::columns;
     const QString keyTitle = loadString(IDS_SHORTCUT_COLUMN_KEY);
-    m_allKeys->addColumn(loadString(IDS_SHORTCUT_COLUMN_NAME), 140, EColumnType::Text,
-                         Qt::AlignLeft, false);
-    m_allKeys->addColumn(keyTitle, 100, EColumnType::Text, Qt::AlignLeft, false);
-    m_allKeys->addColumn(QString(), 0, EColumnType::Text, Qt::AlignLeft, false);
-    m_allKeys->setColumnHidden(shortcut::ColumnNumber, true);
-    m_allKeys->setEditable(false);
-    m_allKeys->horizontalHeader()->setStretchLastSection(true);
-    m_currentKeys->addColumn(keyTitle, 100, EColumnType::Text, Qt::AlignLeft, false);
-    m_currentKeys->setEditable(false);
-    m_currentKeys->horizontalHeader()->setStretchLastSection(true);
+    auto keyText = [](const SShortCut& b) { return QString::fromStdWString(b.makeShortCutSz()); };
+    control::TTableColumn<SShortCut> name{
+        columns::look(loadString(IDS_SHORTCUT_COLUMN_NAME), 140, EColumnType::Text)};
+    name.text = [this](const SShortCut& b) { return commandName(b); };
+    control::TTableColumn<SShortCut> key{columns::look(keyTitle, 100, EColumnType::Text)};
+    key.text = keyText;
+    m_allRows = new control::TRecordTableModel<SShortCut>(this);
+    m_allRows->addColumn(name);
+    m_allRows->addColumn(key);
+    m_currentRows = new control::TRecordTableModel<SShortCut>(this);
+    m_currentRows->addColumn(key);
+    for (control::CKsListCtrl* list : {m_allKeys, m_currentKeys}) {
+        list->setTableModel(list == m_allKeys ? m_allRows : m_currentRows);
+        list->horizontalHeader()->setStretchLastSection(true);
+    }
 }
 
-QString CShortCutDlg::commandName(const setting::SShortCut& binding) const
+QString CShortCutDlg::commandName(const SShortCut& binding) const
 {
     const utility::SCommand* command =
         m_commands ? m_commands->findCommand(binding.commandNumber) : nullptr;
@@ -129,30 +136,20 @@ QString CShortCutDlg::commandName(const setting::SShortCut& binding) const
 
 void CShortCutDlg::fillAllKeys()
 {
-    std::vector<control::SListRow> rows;
-    rows.reserve(m_setting.items().size());
-    for (const setting::SShortCut& binding : m_setting.items()) {
-        const SKeyStroke key{binding.flags, binding.key};
-        rows.emplace_back(shortcut::rowTexts(commandName(binding), key, binding.commandNumber),
-                          static_cast<std::uint64_t>(binding.commandNumber));
-    }
     FollowGuard guard(m_following);
-    m_allKeys->setRows(std::move(rows));
-    m_allKeys->fitColumnToContents(shortcut::ColumnName);
-    m_allKeys->setColumnWidth(shortcut::ColumnName,
-                              std::max(m_allKeys->columnWidth(shortcut::ColumnName), 140));
-    m_allKeys->setColumnWidth(shortcut::ColumnKey, 100);
+    m_allRows->setRows(m_setting.items());
+    m_allKeys->fitColumnToContents(rules::ColumnName);
+    m_allKeys->setColumnWidth(rules::ColumnName,
+                              std::max(m_allKeys->columnWidth(rules::ColumnName), 140));
+    m_allKeys->setColumnWidth(rules::ColumnKey, 100);
 }
 
 void CShortCutDlg::fillCurrentKeys(int commandNumber)
 {
-    std::vector<setting::SShortCut> bindings;
+    std::vector<SShortCut> bindings;
     if (commandNumber > 0)
         m_setting.findItemsById(bindings, commandNumber);
-    std::vector<control::SListRow> rows;
-    for (const setting::SShortCut& binding : bindings)
-        rows.emplace_back(QStringList{QString::fromStdWString(binding.makeShortCutSz())});
-    m_currentKeys->setRows(std::move(rows));
+    m_currentRows->setRows(std::move(bindings));
 }
 
 int CShortCutDlg::selectedCommand() const
@@ -163,7 +160,26 @@ int CShortCutDlg::selectedCommand() const
 
 int CShortCutDlg::rowNumber(int row) const
 {
-    return m_allKeys->getCellText(row, shortcut::ColumnNumber).toInt();
+    return m_allRows->isValidRow(row) ? m_allRows->row(row).commandNumber : 0;
+}
+
+int CShortCutDlg::rowOfNumber(int commandNumber) const
+{
+    for (int row = 0; row < m_allRows->rowCount(); ++row) {
+        if (m_allRows->row(row).commandNumber == commandNumber)
+            return row;
+    }
+    return -1;
+}
+
+int CShortCutDlg::rowOfKey(const SShortCut& key) const
+{
+    for (int row = 0; row < m_allRows->rowCount(); ++row) {
+        const SShortCut& binding = m_allRows->row(row);
+        if (binding.flags == key.flags && binding.key == key.key)
+            return row;
+    }
+    return -1;
 }
 
 void CShortCutDlg::selectTreeItem(int commandNumber)
@@ -200,15 +216,15 @@ void CShortCutDlg::refreshOwner()
 {
     const SKeyStroke& key = m_edit->captured();
     const setting::SShortCut* owner = m_setting.findByShortCut(key.flags, key.key);
-    m_owner->setText(owner ? shortcut::ownerText(commandName(*owner)) : QString());
+    m_owner->setText(owner ? rules::ownerText(commandName(*owner)) : QString());
 }
 
 void CShortCutDlg::refreshButtons()
 {
     const SKeyStroke& key = m_edit->captured();
     const auto states =
-        shortcut::buttonStates(selectedCommand(), key, m_setting.findByShortCut(key.flags, key.key),
-                               m_allKeys->getSelectedRow() >= 0);
+        rules::buttonStates(selectedCommand(), key, m_setting.findByShortCut(key.flags, key.key),
+                            m_allKeys->getSelectedRow() >= 0);
     GetDlgItem(IDC_ASSIGN)->setEnabled(states.assignEnabled);
     GetDlgItem(IDC_DELETE)->setEnabled(states.deleteEnabled);
 }
@@ -217,7 +233,12 @@ void CShortCutDlg::update(kesto::Subject* subject, int event, void* /*data*/)
 {
     if (subject != m_edit || event != CShortCutEdit::EVENT_CAPTURE_CHANGED)
         return;
-    guardHandler(kClass, "OnChangeShortCut", [&] {
+    OnChangeShortCut();
+}
+
+void CShortCutDlg::OnChangeShortCut()
+{
+    guarded([&] {
         refreshOwner();
         refreshButtons();
     });
@@ -227,16 +248,12 @@ void CShortCutDlg::OnTvnSelchangedTree()
 {
     if (m_following)
         return;
-    guardHandler(kClass, "OnTvnSelchangedTree", [&] {
+    guarded([&] {
         const int number = selectedCommand();
-        selectAllKeysRow(
-            number > 0 ? m_allKeys->findRow(shortcut::ColumnNumber, QString::number(number)) : -1);
+        selectAllKeysRow(number > 0 ? rowOfNumber(number) : -1);
         fillCurrentKeys(number);
         const SKeyStroke& key = m_edit->captured();
-        if (key.key != 0
-            && m_allKeys->findRow(shortcut::ColumnKey,
-                                  utility::keys::keyStrokeText(key.flags, key.key))
-                   >= 0)
+        if (key.key != 0 && rowOfKey({0, key.flags, key.key, {}, {}}) >= 0)
             m_edit->clearCapture();
         refreshButtons();
     });
@@ -246,7 +263,7 @@ void CShortCutDlg::OnLvnItemchangedAllKeys()
 {
     if (m_following)
         return;
-    guardHandler(kClass, "OnLvnItemchangedAllKeys", [&] {
+    guarded([&] {
         followSelectedRow();
         refreshButtons();
     });
@@ -254,21 +271,18 @@ void CShortCutDlg::OnLvnItemchangedAllKeys()
 
 void CShortCutDlg::OnBnClickedAssign()
 {
-    guardHandler(kClass, "OnBnClickedAssign", [&] {
+    guarded([&] {
         const int number = selectedCommand();
         const SKeyStroke key = m_edit->captured();
         const utility::SCommand* command = m_commands ? m_commands->findCommand(number) : nullptr;
         if (!command || key.key == 0)
             return;
-        const QString keyText = utility::keys::keyStrokeText(key.flags, key.key);
         FollowGuard guard(m_following);
+        const SShortCut binding{number, key.flags, key.key, command->id, command->name};
         if (m_setting.deleteItem(key.flags, key.key))
-            m_allKeys->removeRow(m_allKeys->findRow(shortcut::ColumnKey, keyText));
+            m_allRows->removeRecord(rowOfKey(binding));
         m_setting.addItem(key.flags, key.key, number, command->id.c_str(), command->name.c_str());
-        m_allKeys->insertRow(
-            0, control::SListRow(
-                   shortcut::rowTexts(QString::fromStdWString(command->name), key, number),
-                   static_cast<std::uint64_t>(number)));
+        m_allRows->insertRecord(0, binding);
         selectAllKeysRow(0);
         followSelectedRow();
         m_edit->clearCapture();
@@ -277,15 +291,15 @@ void CShortCutDlg::OnBnClickedAssign()
 
 void CShortCutDlg::OnBnClickedDelete()
 {
-    guardHandler(kClass, "OnBnClickedDelete", [&] {
+    guarded([&] {
         const int row = m_allKeys->getSelectedRow();
-        if (row < 0)
+        if (!m_allRows->isValidRow(row))
             return;
-        const QString keyText = m_allKeys->getCellText(row, shortcut::ColumnKey);
+        const std::wstring keyText = m_allRows->row(row).makeShortCutSz();
         {
             FollowGuard guard(m_following);
-            m_allKeys->removeRow(row);
-            m_setting.deleteItem(keyText.toStdWString().c_str());
+            m_allRows->removeRecord(row);
+            m_setting.deleteItem(keyText.c_str());
             selectAllKeysRow(std::min(row, m_allKeys->getRowCount() - 1));
             followSelectedRow();
         }
@@ -295,12 +309,12 @@ void CShortCutDlg::OnBnClickedDelete()
 
 void CShortCutDlg::OnBnClickedReset()
 {
-    guardHandler(kClass, "OnBnClickedReset", [&] {
+    guarded([&] {
         m_setting = m_resetSetting;
         {
             FollowGuard guard(m_following);
-            m_allKeys->removeAllRows();
-            m_currentKeys->removeAllRows();
+            m_allRows->setRows({});
+            m_currentRows->setRows({});
         }
         m_edit->clearCapture();
         fillAllKeys();

@@ -17,7 +17,9 @@ class CCommandTable;
 
 namespace kesto::ui::control {
 class CKsListCtrl;
-}
+template <class Row>
+class TRecordTableModel;
+} // namespace kesto::ui::control
 
 namespace kesto::ui::config {
 
@@ -50,10 +52,13 @@ private:
     void followSelectedRow();
     int selectedCommand() const;
     int rowNumber(int row) const;
+    int rowOfNumber(int commandNumber) const;
+    int rowOfKey(const setting::SShortCut& key) const;
     QString commandName(const setting::SShortCut& binding) const;
     void refreshOwner();
     void refreshButtons();
 
+    void OnChangeShortCut();
     void OnTvnSelchangedTree();
     void OnLvnItemchangedAllKeys();
     void OnBnClickedAssign();
@@ -70,6 +75,8 @@ private:
     CShortCutEdit* m_edit = nullptr;
     control::CKsListCtrl* m_currentKeys = nullptr;
     control::CKsListCtrl* m_allKeys = nullptr;
+    control::TRecordTableModel<setting::SShortCut>* m_allRows = nullptr;
+    control::TRecordTableModel<setting::SShortCut>* m_currentRows = nullptr;
     QLabel* m_owner = nullptr;
 };
 

@@ -36,13 +36,13 @@ bool CShortCutEdit::event(QEvent* event)
 void CShortCutEdit::onKeyPress(const QKeyEvent& event)
 {
     const keys::SKeyStroke stroke = keys::keyStrokeOf(event);
-    switch (shortcut::captureAction(stroke.key)) {
-    case shortcut::ECapture::Keep:
+    switch (shortcutrules::captureAction(stroke.key)) {
+    case shortcutrules::ECapture::Keep:
         return;
-    case shortcut::ECapture::Clear:
+    case shortcutrules::ECapture::Clear:
         setCapture({});
         return;
-    case shortcut::ECapture::Show:
+    case shortcutrules::ECapture::Show:
         setCapture(stroke);
         return;
     }

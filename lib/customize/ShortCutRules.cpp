@@ -3,7 +3,7 @@
 #include "framework/Resources.h"
 #include "res/CustomizeResource.h"
 
-namespace kesto::ui::config::shortcut {
+namespace kesto::ui::config::shortcutrules {
 
 namespace keys = utility::keys;
 
@@ -36,11 +36,6 @@ ECapture captureAction(std::uint16_t key)
     }
 }
 
-QStringList rowTexts(const QString& commandName, const SKeyStroke& key, int commandNumber)
-{
-    return {commandName, keys::keyStrokeText(key.flags, key.key), QString::number(commandNumber)};
-}
-
 SButtonStates buttonStates(int selectedCommand, const SKeyStroke& captured,
                            const setting::SShortCut* owner, bool rowSelected)
 {
@@ -58,4 +53,4 @@ QString ownerText(const QString& ownerName)
     return framework::formatString(res::IDS_SHORTCUT_OWNER, {ownerName});
 }
 
-} // namespace kesto::ui::config::shortcut
+} // namespace kesto::ui::config::shortcutrules

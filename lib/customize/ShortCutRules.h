@@ -7,7 +7,7 @@
 #include <QStringList>
 
 // Rules of the shortcut key dialog, free of widgets.
-namespace kesto::ui::config::shortcut {
+namespace kesto::ui::config::shortcutrules {
 
 using utility::keys::SKeyStroke;
 
@@ -21,9 +21,8 @@ enum class ECapture {
 // For a press of the key with virtual-key code key (0: a key without a code).
 ECapture captureAction(std::uint16_t key);
 
-// Columns of the list of all bindings; the command number is kept hidden.
-enum EColumn { ColumnName = 0, ColumnKey = 1, ColumnNumber = 2 };
-QStringList rowTexts(const QString& commandName, const SKeyStroke& key, int commandNumber);
+// Columns of the list of all bindings.
+enum EColumn { ColumnName = 0, ColumnKey = 1 };
 
 struct SButtonStates {
     bool assignEnabled = false;
@@ -38,4 +37,4 @@ SButtonStates buttonStates(int selectedCommand, const SKeyStroke& captured,
 // The note under the key: who owns it now, empty when nobody does.
 QString ownerText(const QString& ownerName);
 
-} // namespace kesto::ui::config::shortcut
+} // namespace kesto::ui::config::shortcutrules

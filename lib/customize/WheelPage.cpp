@@ -39,15 +39,34 @@ CWheelPage::CWheelPage(QWidget* parent)
     if (auto* down = dlgItem<QComboBox>(IDC_WHEEL_DOWN))
         connect(down, &QComboBox::currentIndexChanged, this,
                 [this] { followDirection(IDC_WHEEL_DOWN, IDC_WHEEL_UP); });
+    bindControls();
+}
+
+void CWheelPage::bindControls()
+{
+    using mouserules::SWheelControls;
+    using W = SWheelControls;
+    auto combo = [this](int id) { return dlgItem<QComboBox>(id); };
+    m_binding.value(dlgItem<QCheckBox>(IDC_WHEEL_COMMANDS), &W::wheelCommands)
+        .element(combo(IDC_WHEEL_ROTATE), &W::rotate, 0)
+        .element(combo(IDC_CTRL_WHEEL_ROTATE), &W::rotate, 1)
+        .element(combo(IDC_SHIFT_WHEEL_ROTATE), &W::rotate, 2)
+        .element(combo(IDC_WHEEL_DRAG), &W::drag, 0)
+        .element(combo(IDC_CTRL_WHEEL_DRAG), &W::drag, 1)
+        .element(combo(IDC_WHEEL_CLICK), &W::click, 0)
+        .element(combo(IDC_CTRL_WHEEL_CLICK), &W::click, 1)
+        .value(dlgItem<QLineEdit>(IDC_ZOOM_RATE), &W::zoomRate)
+        .value(combo(IDC_WHEEL_UP), &W::upDirection)
+        .value(combo(IDC_WHEEL_DOWN), &W::downDirection);
 }
 
 void CWheelPage::setCommands(const utility::CCommandTable* commands,
                              const setting::SMouseCommands* candidates)
 {
-    m_candidates = candidates ? mouse::resolveCandidates(candidates->actionCommands, commands)
-                              : std::vector<mouse::SCandidate>();
+    m_candidates = candidates ? mouserules::resolveCandidates(candidates->actionCommands, commands)
+                              : std::vector<mouserules::SCandidate>();
     QStringList names{framework::loadString(IDS_MOUSE_NONE)};
-    for (const mouse::SCandidate& candidate : m_candidates)
+    for (const mouserules::SCandidate& candidate : m_candidates)
         names << candidate.name;
     for (int id : {IDC_WHEEL_CLICK, IDC_CTRL_WHEEL_CLICK}) {
         if (auto* combo = dlgItem<QComboBox>(id)) {
@@ -71,42 +90,13 @@ void CWheelPage::setComboIndex(int id, int index)
 
 void CWheelPage::loadFrom(const setting::SMouseSetting& view)
 {
-    const mouse::SWheelControls c = mouse::loadWheel(view, m_candidates);
-    if (auto* check = dlgItem<QCheckBox>(IDC_WHEEL_COMMANDS))
-        check->setChecked(c.wheelCommands);
-    setComboIndex(IDC_WHEEL_ROTATE, c.rotate[0]);
-    setComboIndex(IDC_CTRL_WHEEL_ROTATE, c.rotate[1]);
-    setComboIndex(IDC_SHIFT_WHEEL_ROTATE, c.rotate[2]);
-    setComboIndex(IDC_WHEEL_DRAG, c.drag[0]);
-    setComboIndex(IDC_CTRL_WHEEL_DRAG, c.drag[1]);
-    setComboIndex(IDC_WHEEL_CLICK, c.click[0]);
-    setComboIndex(IDC_CTRL_WHEEL_CLICK, c.click[1]);
-    if (auto* rate = dlgItem<QLineEdit>(IDC_ZOOM_RATE))
-        rate->setText(c.zoomRate);
-    setComboIndex(IDC_WHEEL_UP, c.upDirection);
-    setComboIndex(IDC_WHEEL_DOWN, c.downDirection);
+    m_binding.fill(mouserules::loadWheel(view, m_candidates));
     refreshEnabled();
-}
-
-mouse::SWheelControls CWheelPage::controls() const
-{
-    mouse::SWheelControls c;
-    const auto* check = dlgItem<QCheckBox>(IDC_WHEEL_COMMANDS);
-    c.wheelCommands = check && check->isChecked();
-    c.rotate = {comboIndex(IDC_WHEEL_ROTATE), comboIndex(IDC_CTRL_WHEEL_ROTATE),
-                comboIndex(IDC_SHIFT_WHEEL_ROTATE)};
-    c.drag = {comboIndex(IDC_WHEEL_DRAG), comboIndex(IDC_CTRL_WHEEL_DRAG)};
-    c.click = {comboIndex(IDC_WHEEL_CLICK), comboIndex(IDC_CTRL_WHEEL_CLICK)};
-    const auto* rate = dlgItem<QLineEdit>(IDC_ZOOM_RATE);
-    c.zoomRate = rate ? rate->text() : QString();
-    c.upDirection = comboIndex(IDC_WHEEL_UP);
-    c.downDirection = comboIndex(IDC_WHEEL_DOWN);
-    return c;
 }
 
 void CWheelPage::storeTo(setting::SMouseSetting& view) const
 {
-    mouse::storeWheel(controls(), m_candidates, view);
+    mouserules::storeWheel(m_binding.stored({}), m_candidates, view);
 }
 
 // The actions are chosen only while the wheel runs commands; the step zoom always.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "customize/MousePage.h"
+#include "framework/DialogBinding.h"
 
 class QComboBox;
 
@@ -20,13 +21,14 @@ public:
     void storeTo(setting::SMouseSetting& view) const override;
 
 private:
-    mouse::SWheelControls controls() const;
+    void bindControls();
     int comboIndex(int id) const;
     void setComboIndex(int id, int index);
     void refreshEnabled();
     void followDirection(int changedId, int otherId);
 
-    std::vector<mouse::SCandidate> m_candidates;
+    std::vector<mouserules::SCandidate> m_candidates;
+    framework::TDialogBinding<mouserules::SWheelControls> m_binding;
 };
 
 } // namespace kesto::ui::config

@@ -1,11 +1,11 @@
 #include "draw/DrawCommonDlg.h"
 
 #include "control/ArrowComboBox.h"
+#include "control/ComboValues.h"
 #include "control/SelectLineWidthComboBox.h"
 #include "control/SystemColorComboBox.h"
 #include "control/SystemLineTypeComboBox.h"
 #include "core/Application.h"
-#include "framework/HandlerGuard.h"
 #include "framework/Resources.h"
 #include "res/DrawResource.h"
 #include "setting/LineEndSetting.h"
@@ -21,12 +21,10 @@
 namespace kesto::ui::config {
 
 using namespace res;
-using framework::guardHandler;
 using framework::loadString;
+namespace rules = drawcommonrules;
 
 namespace {
-
-const char* const kClass = "CDrawCommonDlg";
 
 core::CSystemConfig* systemConfig()
 {
@@ -38,21 +36,6 @@ T* configSetting()
 {
     core::CSystemConfig* config = systemConfig();
     return config ? config->getSetting<T>() : nullptr;
-}
-
-// The whole name if the list has it, else the first entry that begins with it.
-void selectLineEnd(control::CArrowComboBox& combo, const std::wstring& name)
-{
-    const QString text = QString::fromStdWString(name);
-    if (utility::ComboSelectStringExact(combo, text) < 0)
-        combo.SelectString(text);
-}
-
-std::optional<std::wstring> selectedText(const QComboBox& combo)
-{
-    if (combo.currentIndex() < 0)
-        return std::nullopt;
-    return combo.currentText().toStdWString();
 }
 
 } // namespace
@@ -82,16 +65,22 @@ bool CDrawCommonDlg::findControls()
 
 bool CDrawCommonDlg::OnInitDialog()
 {
-    return guardHandler(kClass, "OnInitDialog", [&] {
+    return guarded([&] {
         if (!findControls())
             return false;
         if (const auto* colors = configSetting<setting::CColorSetting>())
             m_colorSetting = *colors;
-        fillNameLists();
-        fillLookControls();
-        fillLineEnds();
-        m_virtual->setChecked(m_setting.isVirtualElement());
-        m_reference->setEnabled(drawcommon::canReferToDrawing(m_data));
+        setupNameLists();
+        setupLookControls();
+        setupLineEnds();
+        bindControls();
+        fillControls();
+        if (m_data)
+            m_dataBinding.fill(*m_data);
+        else
+            for (QComboBox* list : m_lists)
+                list->setCurrentIndex(-1);
+        m_reference->setEnabled(rules::canReferToDrawing(m_data));
         onClicked(IDC_DRAW_REFERENCE, [this] { OnBnClickedReference(); });
         onClicked(IDC_HELP, [this] { OnBnClickedHelp(); });
         registerToolTips();
@@ -100,25 +89,19 @@ bool CDrawCommonDlg::OnInitDialog()
 }
 
 // The open drawing's lists; a list with nothing to choose from stays disabled.
-void CDrawCommonDlg::fillNameLists()
+void CDrawCommonDlg::setupNameLists()
 {
     const core::CSystemConfig* config = systemConfig();
-    const auto entries = drawcommon::drawingLists(config ? config->getCurrentDataBase() : nullptr);
-    const auto names = m_data ? drawcommon::recordNames(*m_data)
-                              : std::array<std::wstring, drawcommon::ListCount>{};
-    for (int list = 0; list < drawcommon::ListCount; ++list) {
+    const auto entries = rules::drawingLists(config ? config->getCurrentDataBase() : nullptr);
+    for (int list = 0; list < rules::ListCount; ++list) {
         QComboBox& combo = *m_lists[list];
         combo.clear();
         combo.addItems(entries[list]);
-        combo.setCurrentIndex(-1);
-        if (m_data && !names[list].empty())
-            utility::ComboSelectStringExact(combo, QString::fromStdWString(names[list]));
-        combo.setVisible(true);
         combo.setEnabled(combo.count() > 0);
     }
 }
 
-void CDrawCommonDlg::fillLookControls()
+void CDrawCommonDlg::setupLookControls()
 {
     const QString byLayer = loadString(IDS_BY_LAYER);
     m_color->setColorSetting(&m_colorSetting);
@@ -128,14 +111,10 @@ void CDrawCommonDlg::fillLookControls()
     m_lineType->setTextOtherLineType(loadString(IDS_OTHER_LINETYPE));
     m_lineWidth->setLWidthByLayer(byLayer);
     m_lineWidth->init();
-    m_color->selectColor(drawcommon::colorToSelect(m_setting));
-    const core::CSystemConfig* config = systemConfig();
-    m_lineType->selectLineType(
-        drawcommon::lineTypeToSelect(m_setting, config ? config->getCurrentDataBase() : nullptr));
-    m_lineWidth->selectLineWidth(drawcommon::lineWidthToSelect(m_setting));
 }
 
-void CDrawCommonDlg::fillLineEnds()
+// A name the list lacks shows nothing and is kept.
+void CDrawCommonDlg::setupLineEnds()
 {
     std::vector<setting::SLineEnd> ends;
     if (const auto* lineEnds = configSetting<setting::CLineEndSetting>())
@@ -144,10 +123,71 @@ void CDrawCommonDlg::fillLineEnds()
         combo->clear();
         for (const setting::SLineEnd& end : ends)
             combo->addArrow(end.getType(), end.getName());
-        combo->setCurrentIndex(-1); // a name the list lacks shows nothing and is kept
+        combo->setCurrentIndex(-1);
     }
-    selectLineEnd(*m_startLineEnd, m_setting.getStartLineEndName());
-    selectLineEnd(*m_endLineEnd, m_setting.getEndLineEndName());
+}
+
+// The three lists show the record's names and write back those chosen; the rest is the
+// setting's.
+void CDrawCommonDlg::bindControls()
+{
+    using setting::CDrawCommonSetting;
+    for (int list = 0; list < rules::ListCount; ++list) {
+        m_dataBinding.field(
+            m_lists[list],
+            [list](QComboBox& combo, const SDrawCommonDlgData& data) {
+                const std::wstring name = rules::recordNames(data)[list];
+                combo.setCurrentIndex(-1);
+                if (!name.empty())
+                    utility::ComboSelectStringExact(combo, QString::fromStdWString(name));
+            },
+            [list](const QComboBox& combo, SDrawCommonDlgData& data) {
+                rules::storeName(data, list,
+                                 {combo.currentIndex(), combo.currentText().toStdWString()});
+            });
+    }
+    bindLooks();
+    m_binding
+        .value(m_startLineEnd, &CDrawCommonSetting::getStartLineEndName,
+               &CDrawCommonSetting::setStartLineEndName)
+        .value(m_endLineEnd, &CDrawCommonSetting::getEndLineEndName,
+               &CDrawCommonSetting::setEndLineEndName)
+        .value(m_virtual, &CDrawCommonSetting::isVirtualElement,
+               &CDrawCommonSetting::setVirtualElement);
+}
+
+// The combo boxes' entries map to the setting's modes by index (see the rules).
+void CDrawCommonDlg::bindLooks()
+{
+    using setting::CDrawCommonSetting;
+    m_binding
+        .field(
+            m_color,
+            [](control::CSystemColorComboBox& c, const CDrawCommonSetting& s) {
+                c.selectColor(rules::colorToSelect(s));
+            },
+            [](const control::CSystemColorComboBox& c, CDrawCommonSetting& s) {
+                rules::storeColor(s, c.currentIndex(), c.getColor(c.currentIndex()),
+                                  control::CColorComboBox::getInvalidColor());
+            })
+        .field(
+            m_lineType,
+            [](control::CSystemLineTypeComboBox& c, const CDrawCommonSetting& s) {
+                const core::CSystemConfig* config = systemConfig();
+                c.selectLineType(
+                    rules::lineTypeToSelect(s, config ? config->getCurrentDataBase() : nullptr));
+            },
+            [](const control::CSystemLineTypeComboBox& c, CDrawCommonSetting& s) {
+                rules::storeLineType(s, c.currentIndex(), c.getCurLType());
+            })
+        .field(
+            m_lineWidth,
+            [](control::SelectLineWidthComboBox& c, const CDrawCommonSetting& s) {
+                c.selectLineWidth(rules::lineWidthToSelect(s));
+            },
+            [](const control::SelectLineWidthComboBox& c, CDrawCommonSetting& s) {
+                rules::storeLineWidth(s, c.currentIndex(), c.getWidth(c.currentIndex()));
+            });
 }
 
 void CDrawCommonDlg::registerToolTips()
@@ -171,38 +211,20 @@ void CDrawCommonDlg::registerToolTips()
     }
 }
 
-void CDrawCommonDlg::storeControls()
+// The colours mixed meanwhile go to the host's configuration on OK only.
+bool CDrawCommonDlg::afterStore()
 {
-    std::array<drawcommon::SListChoice, drawcommon::ListCount> choices;
-    for (int list = 0; list < drawcommon::ListCount; ++list)
-        choices[list] = {m_lists[list]->currentIndex(),
-                         m_lists[list]->currentText().toStdWString()};
-    drawcommon::storeNames(m_data, choices);
-    const int color = m_color->currentIndex();
-    drawcommon::storeColor(m_setting, color, m_color->getColor(color),
-                           control::CColorComboBox::getInvalidColor());
-    drawcommon::storeLineType(m_setting, m_lineType->currentIndex(), m_lineType->getCurLType());
-    const int width = m_lineWidth->currentIndex();
-    drawcommon::storeLineWidth(m_setting, width, m_lineWidth->getWidth(width));
-    drawcommon::storeLineEnds(m_setting, selectedText(*m_startLineEnd),
-                              selectedText(*m_endLineEnd));
-    m_setting.setVirtualElement(m_virtual->isChecked());
-}
-
-void CDrawCommonDlg::OnOK()
-{
-    guardHandler(kClass, "OnOK", [&] {
-        storeControls();
-        if (auto* colors = configSetting<setting::CColorSetting>())
-            *colors = m_colorSetting;
-        EndDialog(framework::IDOK);
-    });
+    if (m_data)
+        m_dataBinding.store(*m_data);
+    if (auto* colors = configSetting<setting::CColorSetting>())
+        *colors = m_colorSetting;
+    return true;
 }
 
 // The working copy is left as it came, so the caller gets its own values back.
 void CDrawCommonDlg::OnCancel()
 {
-    guardHandler(kClass, "OnCancel", [&] {
+    guarded([&] {
         if (m_data)
             m_data->requestCode = refDlg::SRefDlgData::RequestNone;
         EndDialog(framework::IDCANCEL);
@@ -211,18 +233,20 @@ void CDrawCommonDlg::OnCancel()
 
 void CDrawCommonDlg::OnBnClickedReference()
 {
-    guardHandler(kClass, "OnBnClickedReference", [&] {
-        if (!drawcommon::canReferToDrawing(m_data))
+    guarded([&] {
+        if (!rules::canReferToDrawing(m_data))
             return;
         m_data->requestCode = refDlg::SRefDlgData::RequestReference;
-        storeControls();
-        EndDialog(framework::IDCANCEL);
+        if (storeControls()) {
+            m_dataBinding.store(*m_data);
+            EndDialog(framework::IDCANCEL);
+        }
     });
 }
 
 void CDrawCommonDlg::OnBnClickedHelp()
 {
-    guardHandler(kClass, "OnBnClickedHelp", [&] {
+    guarded([&] {
         core::Application::getInstance()->OpenHtmlHelp(QStringLiteral("DLG_HLP_SET_COMMON"));
     });
 }

@@ -38,27 +38,28 @@ public:
 
 protected:
     bool OnInitDialog() override;
-    void OnOK() override;
+    bool afterStore() override;
     void OnCancel() override;
 
 private:
     bool findControls();
-    void fillNameLists();
-    void fillLookControls();
-    void fillLineEnds();
+    void setupNameLists();
+    void setupLookControls();
+    void setupLineEnds();
+    void bindControls();
+    void bindLooks();
     void registerToolTips();
-    // Controls into the working copy and the record (OK and "図面参照").
-    void storeControls();
 
     void OnBnClickedReference();
     void OnBnClickedHelp();
 
     SDrawCommonDlgData* m_data = nullptr;
+    framework::TDialogBinding<SDrawCommonDlgData> m_dataBinding;
     // The host's custom colours while the dialog is open; written back on OK.
     setting::CColorSetting m_colorSetting;
     tooltip::DlgToolTipManager m_toolTips;
 
-    std::array<QComboBox*, drawcommon::ListCount> m_lists{};
+    std::array<QComboBox*, drawcommonrules::ListCount> m_lists{};
     control::CSystemColorComboBox* m_color = nullptr;
     control::CSystemLineTypeComboBox* m_lineType = nullptr;
     control::SelectLineWidthComboBox* m_lineWidth = nullptr;

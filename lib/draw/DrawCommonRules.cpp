@@ -5,7 +5,7 @@
 #include "types/KsLayer.h"
 #include "types/KsScale.h"
 
-namespace kesto::ui::config::drawcommon {
+namespace kesto::ui::config::drawcommonrules {
 
 using setting::CDrawCommonSetting;
 
@@ -70,30 +70,17 @@ void storeLineWidth(CDrawCommonSetting& setting, int index, double entryWidth)
         setting.setWidthKind(index + CDrawCommonSetting::WidthByLayer);
 }
 
-void storeLineEnds(CDrawCommonSetting& setting, const std::optional<std::wstring>& start,
-                   const std::optional<std::wstring>& end)
-{
-    if (start)
-        setting.setStartLineEndName(*start);
-    if (end)
-        setting.setEndLineEndName(*end);
-}
-
 std::array<std::wstring, ListCount> recordNames(const SDrawCommonDlgData& record)
 {
     return {record.coordinateSystemName, record.scaleName, record.layerName};
 }
 
-void storeNames(SDrawCommonDlgData* record, const std::array<SListChoice, ListCount>& choices)
+void storeName(SDrawCommonDlgData& record, int list, const SListChoice& choice)
 {
-    if (!record)
-        return;
-    std::wstring* names[ListCount] = {&record->coordinateSystemName, &record->scaleName,
-                                      &record->layerName};
-    for (int list = 0; list < ListCount; ++list) {
-        if (choices[list].index >= 0)
-            *names[list] = choices[list].text;
-    }
+    std::wstring* names[ListCount] = {&record.coordinateSystemName, &record.scaleName,
+                                      &record.layerName};
+    if (list >= 0 && list < ListCount && choice.index >= 0)
+        *names[list] = choice.text;
 }
 
 bool canReferToDrawing(const SDrawCommonDlgData* record)
@@ -126,4 +113,4 @@ std::array<QStringList, ListCount> drawingLists(const IDataBase* db)
             namesOf<KsLayer>(*db, L"LAYER")};
 }
 
-} // namespace kesto::ui::config::drawcommon
+} // namespace kesto::ui::config::drawcommonrules

@@ -15,7 +15,7 @@ class IDataBase;
 
 // How "共通設定" maps its controls to the setting and the record, without widgets. Indices are
 // those of the combo boxes, whose first entry is the by-layer one; -1 is no selection.
-namespace kesto::ui::config::drawcommon {
+namespace kesto::ui::config::drawcommonrules {
 
 // The combo boxes' by-layer entry.
 inline constexpr int kByLayerIndex = 0;
@@ -38,9 +38,6 @@ void storeLineType(setting::CDrawCommonSetting& setting, int index, const KsLine
 // The entry's width always (0 for none); the kind by index: 1 to 4 for the by-layer and the
 // three fixed entries, 0 from index 4 on; no selection keeps the kind.
 void storeLineWidth(setting::CDrawCommonSetting& setting, int index, double entryWidth);
-// Each line end only when its combo box has a selection.
-void storeLineEnds(setting::CDrawCommonSetting& setting, const std::optional<std::wstring>& start,
-                   const std::optional<std::wstring>& end);
 
 // The selection of one of the lists "座標系", "スケール" and "レイヤ".
 struct SListChoice {
@@ -51,8 +48,8 @@ enum EList { ListCoordinateSystem = 0, ListScale = 1, ListLayer = 2, ListCount =
 
 // The record's names, in list order.
 std::array<std::wstring, ListCount> recordNames(const SDrawCommonDlgData& record);
-// A list with a selection writes its text into the record's name; the others keep theirs.
-void storeNames(SDrawCommonDlgData* record, const std::array<SListChoice, ListCount>& choices);
+// A list with a selection writes its text into the record's name; else the name is kept.
+void storeName(SDrawCommonDlgData& record, int list, const SListChoice& choice);
 
 // "図面参照" acts only for a record whose reference flag is set.
 bool canReferToDrawing(const SDrawCommonDlgData* record);
@@ -61,4 +58,4 @@ bool canReferToDrawing(const SDrawCommonDlgData* record);
 // in drawing order (all empty without a drawing).
 std::array<QStringList, ListCount> drawingLists(const IDataBase* db);
 
-} // namespace kesto::ui::config::drawcommon
+} // namespace kesto::ui::config::drawcommonrules

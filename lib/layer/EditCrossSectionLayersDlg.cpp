@@ -1,17 +1,9 @@
 #include "layer/EditCrossSectionLayersDlg.h"
 
-#include "res/LayerResource.h"
-
 namespace kesto::ui::config {
 
-namespace {
-const SLayerFlagsDlgProfile kProfile{res::IDD_EDIT_CROSSSECTION_LAYERS,
-                                     "CEditCrossSectionLayersDlg", res::IDS_LAYER_COLUMN_SECTION,
-                                     res::IDS_LAYER_REFERENCE, res::IDS_LAYER_NO_REFERENCE};
-}
-
 CEditCrossSectionLayersDlg::CEditCrossSectionLayersDlg()
-    : CEditLayersDlgBase(kProfile)
+    : CEditLayersDlgBase(CrossSectionViews)
 {}
 
 bool CEditCrossSectionLayersDlg::setupEdit(

@@ -1,10 +1,11 @@
 #include "layer/EditLayersDlgBase.h"
 
 #include "control/KsListCtrl.h"
+#include "control/RecordTableModel.h"
 #include "core/Application.h"
 #include "db/KsLayerManager.h"
-#include "framework/HandlerGuard.h"
 #include "framework/Resources.h"
+#include "layer/LayerFlagRules.h"
 #include "res/LayerResource.h"
 #include "types/KsLayer.h"
 
@@ -14,23 +15,26 @@ namespace kesto::ui::config {
 
 using namespace res;
 using control::EColumnType;
-using control::SListRow;
 using framework::loadString;
-using layerflags::flagOfText;
 
 namespace {
 
-enum EColumn {
-    ColumnFlag,
-    ColumnFigure,
-    ColumnVisible,
-    ColumnReference,
-    ColumnEditable,
-    ColumnName,
-    ColumnColor,
-    ColumnLineType,
-    ColumnLineWidth,
-    ColumnComment,
+enum EColumn { ColumnFlag };
+
+// What tells the viewport and the cross-section dialog apart.
+struct SProfile {
+    int templateId;
+    const char* className; // in log lines, and the key of the saved placement
+    int flagColumnTitle;   // string ids
+    int onText;
+    int offText;
+};
+
+const SProfile kProfiles[] = {
+    {IDD_EDIT_VIEWPORT_LAYERS, "CEditViewPortLayersDlg", IDS_LAYER_COLUMN_VIEWPORT,
+     IDS_LAYER_VISIBLE, IDS_LAYER_HIDDEN},
+    {IDD_EDIT_CROSSSECTION_LAYERS, "CEditCrossSectionLayersDlg", IDS_LAYER_COLUMN_SECTION,
+     IDS_LAYER_REFERENCE, IDS_LAYER_NO_REFERENCE},
 };
 
 // The flag cells' background.
@@ -41,26 +45,125 @@ QString columnKey(int column)
     return QStringLiteral("column%1").arg(column);
 }
 
+// A row of the list: its record, and the layer's states as they were when the list was made.
+struct SLayerRow {
+    std::size_t record = 0;
+    bool visible = false;
+    bool reference = false;
+    bool editable = false;
+};
+
 } // namespace
 
-template <class F>
-decltype(auto) CEditLayersDlgBase::guard(const char* method, F&& handler)
+class CEditLayersDlgBase::Private {
+public:
+    explicit Private(const SProfile& p)
+        : profile(p)
+        , flagTexts{QStringLiteral(" "), loadString(p.onText), loadString(p.offText),
+                    loadString(IDS_LAYER_KEEP)}
+    {}
+
+    std::vector<SLayerRow> rows() const;
+    void addColumns(const std::function<int(int)>& dialogUnits);
+    QString flagText(const SLayerRow& row) const
+    {
+        return layerflags::textOfFlag(flagTexts, editor.row(row.record).flag,
+                                      !editor.isCreateMode());
+    }
+
+    const SProfile& profile;
+    layerflags::CLayerFlagEditor editor;
+    layerflags::SFlagTexts flagTexts;
+    control::CKsListCtrl* list = nullptr;
+    control::TRecordTableModel<SLayerRow>* model = nullptr;
+    bool destroyed = false;
+};
+
+std::vector<SLayerRow> CEditLayersDlgBase::Private::rows() const
 {
-    return framework::guardHandler(m_profile.className, method, std::forward<F>(handler));
+    const KsLayerManager& manager = *editor.layerManager();
+    std::vector<SLayerRow> out;
+    out.reserve(editor.rowCount());
+    for (std::size_t i = 0; i < editor.rowCount(); ++i) {
+        const KsLayer& layer = *editor.row(i).layer;
+        out.push_back(
+            {i, layer.isVisible(manager), layer.isReference(manager), layer.isEditable(manager)});
+    }
+    return out;
 }
 
-CEditLayersDlgBase::CEditLayersDlgBase(const SLayerFlagsDlgProfile& profile)
-    : CKsDialog(profile.templateId)
-    , m_profile(profile)
-    , m_flagTexts{QStringLiteral(" "), loadString(profile.onText), loadString(profile.offText),
-                  loadString(IDS_LAYER_KEEP)}
-    , m_figureMark(loadString(IDS_LAYER_MARK_FIGURE))
-    , m_noFigureMark(QStringLiteral(" "))
-    , m_trueMark(loadString(IDS_LAYER_MARK_TRUE))
-    , m_falseMark(loadString(IDS_LAYER_MARK_FALSE))
-    , m_list(dlgItem<control::CKsListCtrl>(IDC_LIST))
+// The flag cell reads its text as a flag; the other cells show the layer.
+void CEditLayersDlgBase::Private::addColumns(const std::function<int(int)>& units)
 {
-    setPlacementKey(QString::fromLatin1(profile.className));
+    namespace columns = control::columns;
+    auto layerOf = [this](const SLayerRow& r) -> const KsLayer& {
+        return *editor.row(r.record).layer;
+    };
+    auto text = [&](int title, int width, std::function<QString(const SLayerRow&)> show,
+                    Qt::Alignment align = Qt::AlignLeft) {
+        control::TTableColumn<SLayerRow> c{
+            columns::look(loadString(title), units(width), EColumnType::Text, align)};
+        c.look.editable = false;
+        c.text = std::move(show);
+        return model->addColumn(std::move(c));
+    };
+    control::TTableColumn<SLayerRow> flag{
+        columns::look(loadString(profile.flagColumnTitle), units(80), EColumnType::Combo)};
+    flag.look.items = layerflags::flagItems(flagTexts, !editor.isCreateMode());
+    flag.look.background = kFlagBackground;
+    flag.text = [this](const SLayerRow& r) { return flagText(r); };
+    flag.read = [this](SLayerRow& r, const QString& typed) {
+        const int value = layerflags::flagOfText(flagTexts, typed);
+        if (value < 0 || value == editor.row(r.record).flag)
+            return false;
+        editor.setFlag(r.record, static_cast<char>(value));
+        return true;
+    };
+    model->addColumn(std::move(flag));
+    const QString figure = loadString(IDS_LAYER_MARK_FIGURE);
+    const QString yes = loadString(IDS_LAYER_MARK_TRUE);
+    const QString no = loadString(IDS_LAYER_MARK_FALSE);
+    text(
+        IDS_LAYER_COLUMN_FIGURE, 35,
+        [this, figure](const SLayerRow& r) {
+            return editor.row(r.record).hasFigures ? figure : QStringLiteral(" ");
+        },
+        Qt::AlignHCenter);
+    text(
+        IDS_LAYER_VISIBLE, 35, [=](const SLayerRow& r) { return r.visible ? yes : no; },
+        Qt::AlignHCenter);
+    text(
+        IDS_LAYER_REFERENCE, 35, [=](const SLayerRow& r) { return r.reference ? yes : no; },
+        Qt::AlignHCenter);
+    text(
+        IDS_LAYER_COLUMN_EDITABLE, 35, [=](const SLayerRow& r) { return r.editable ? yes : no; },
+        Qt::AlignHCenter);
+    text(IDS_LAYER_COLUMN_NAME, 120,
+         [=](const SLayerRow& r) { return QString::fromStdWString(layerOf(r).getName()); });
+    control::TTableColumn<SLayerRow> color{
+        columns::look(loadString(IDS_LAYER_COLUMN_COLOR), units(60), EColumnType::Color)};
+    color.look.editable = false;
+    color.text = [=](const SLayerRow& r) {
+        return QString::fromStdWString(layerOf(r).getColor().getName());
+    };
+    color.color = [=](const SLayerRow& r) { return layerOf(r).getColor().getRGB(); };
+    model->addColumn(std::move(color));
+    text(IDS_LAYER_COLUMN_LINETYPE, 60, [=](const SLayerRow& r) {
+        return QString::fromStdWString(layerOf(r).getLineType().getName());
+    });
+    text(IDS_LAYER_COLUMN_LINEWIDTH, 60, [=](const SLayerRow& r) {
+        return QString::fromStdWString(layerOf(r).getLineWidth().getName());
+    });
+    text(IDS_LAYER_COLUMN_COMMENT, 200,
+         [=](const SLayerRow& r) { return QString::fromStdWString(layerOf(r).getComment()); });
+}
+
+CEditLayersDlgBase::CEditLayersDlgBase(EKind kind)
+    : CKsDialog(kProfiles[kind].templateId)
+    , d(std::make_unique<Private>(kProfiles[kind]))
+{
+    d->list = dlgItem<control::CKsListCtrl>(IDC_LIST);
+    setPlacementKey(QString::fromLatin1(d->profile.className));
     keepFirstSizeAsMinimum(true);
     onClicked(IDC_LAYER_ON, [this] { OnBnClickedDisp(); });
     onClicked(IDC_LAYER_OFF, [this] { OnBnClickedUnDisp(); });
@@ -72,56 +175,70 @@ CEditLayersDlgBase::CEditLayersDlgBase(const SLayerFlagsDlgProfile& profile)
 // here is logged, never thrown out of the destructor.
 CEditLayersDlgBase::~CEditLayersDlgBase()
 {
-    if (m_list)
-        m_list->detach(this);
-    if (m_destroyed)
+    if (d->list)
+        d->list->detach(this);
+    if (d->destroyed)
         return;
     try {
-        m_editor.undoPreview();
+        d->editor.undoPreview();
     } catch (...) {
-        framework::logHandlerException(m_profile.className, "OnDestroy");
+        framework::logHandlerException(handlerClass(), QStringLiteral("OnDestroy"));
     }
+}
+
+QString CEditLayersDlgBase::handlerClass() const
+{
+    return QString::fromLatin1(d->profile.className);
 }
 
 bool CEditLayersDlgBase::setup(IDataBase* db, IView* view,
                                const std::map<std::wstring, char>& flags)
 {
-    return m_editor.setup(db, view, flags);
+    return d->editor.setup(db, view, flags);
+}
+
+bool CEditLayersDlgBase::isForCreate() const
+{
+    return d->editor.isCreateMode();
 }
 
 bool CEditLayersDlgBase::setupViews(IDataBase* db, IView* view,
                                     const std::map<std::wstring, char>& flags,
                                     std::vector<const element::ILayerFlagView*> views)
 {
-    return m_editor.setupEdit(db, view, flags, std::move(views));
+    return d->editor.setupEdit(db, view, flags, std::move(views));
 }
 
 bool CEditLayersDlgBase::modifyLayerFlgs(std::map<std::wstring, char>& flags) const
 {
-    return m_editor.modifyLayerFlgs(flags);
+    return d->editor.modifyLayerFlgs(flags);
 }
 
 void CEditLayersDlgBase::getLayerFlgArray(std::vector<std::pair<std::wstring, char>>& out) const
 {
-    m_editor.getLayerFlgArray(out);
+    d->editor.getLayerFlgArray(out);
 }
 
 void CEditLayersDlgBase::updateLayers()
 {
-    m_editor.previewAll();
+    d->editor.previewAll();
 }
 
 bool CEditLayersDlgBase::OnInitDialog()
 {
-    return guard("OnInitDialog", [&] {
-        framework::logHandlerEntry(m_profile.className, "OnInitDialog");
-        if (!m_list || m_editor.rowCount() == 0)
+    return guarded([&] {
+        framework::logHandlerEntry(handlerClass(), QStringLiteral("OnInitDialog"));
+        if (!d->list || d->editor.rowCount() == 0)
             return false;
         if (QWidget* keep = GetDlgItem(IDC_LAYER_KEEP))
-            keep->setEnabled(!m_editor.isCreateMode());
+            keep->setEnabled(!d->editor.isCreateMode());
         equalizeWidths({IDC_LAYER_ON, IDC_LAYER_OFF, IDC_LAYER_IGNORE, IDC_LAYER_KEEP});
-        addColumns();
-        m_list->attach(this);
+        d->model = new control::TRecordTableModel<SLayerRow>(this);
+        d->addColumns([this](int units) { return dialogUnits(units); });
+        d->list->setTableModel(d->model);
+        d->list->setMultiSelect(true);
+        restoreColumnWidths();
+        d->list->attach(this);
         setupList();
         return true;
     });
@@ -136,146 +253,92 @@ int CEditLayersDlgBase::dialogUnits(int units) const
     return static_cast<int>(units * average / 4.0 + 0.5);
 }
 
-void CEditLayersDlgBase::addColumns()
-{
-    const Qt::Alignment center = Qt::AlignHCenter;
-    auto add = [&](int title, int width, EColumnType type = EColumnType::Text,
-                   Qt::Alignment align = Qt::AlignLeft, bool editable = false) {
-        m_list->addColumn(loadString(title), dialogUnits(width), type, align, editable);
-    };
-    add(m_profile.flagColumnTitle, 80, EColumnType::Combo, Qt::AlignLeft, true);
-    add(IDS_LAYER_COLUMN_FIGURE, 35, EColumnType::Text, center);
-    add(IDS_LAYER_VISIBLE, 35, EColumnType::Text, center);
-    add(IDS_LAYER_REFERENCE, 35, EColumnType::Text, center);
-    add(IDS_LAYER_COLUMN_EDITABLE, 35, EColumnType::Text, center);
-    add(IDS_LAYER_COLUMN_NAME, 120);
-    add(IDS_LAYER_COLUMN_COLOR, 60, EColumnType::Color);
-    add(IDS_LAYER_COLUMN_LINETYPE, 60);
-    add(IDS_LAYER_COLUMN_LINEWIDTH, 60);
-    add(IDS_LAYER_COLUMN_COMMENT, 200);
-    m_list->setColumnItems(ColumnFlag, layerflags::flagItems(m_flagTexts, !isForCreate()));
-    m_list->setColumnBackground(ColumnFlag, kFlagBackground);
-    m_list->setMultiSelect(true);
-    restoreColumnWidths();
-}
-
-SListRow CEditLayersDlgBase::makeRow(std::size_t index) const
-{
-    const layerflags::SLayerFlagRow& record = m_editor.row(index);
-    const KsLayer& layer = *record.layer;
-    const KsLayerManager& manager = *m_editor.layerManager();
-    auto mark = [this](bool on) { return on ? m_trueMark : m_falseMark; };
-    SListRow row({layerflags::textOfFlag(m_flagTexts, record.flag, !isForCreate()),
-                  record.hasFigures ? m_figureMark : m_noFigureMark, mark(layer.isVisible(manager)),
-                  mark(layer.isReference(manager)), mark(layer.isEditable(manager)),
-                  QString::fromStdWString(layer.getName()),
-                  QString::fromStdWString(layer.getColor().getName()),
-                  QString::fromStdWString(layer.getLineType().getName()),
-                  QString::fromStdWString(layer.getLineWidth().getName()),
-                  QString::fromStdWString(layer.getComment())},
-                 index);
-    row.cells[ColumnColor].color = layer.getColor().getRGB();
-    return row;
-}
-
 void CEditLayersDlgBase::setupList()
 {
-    std::vector<SListRow> rows;
-    rows.reserve(m_editor.rowCount());
-    for (std::size_t i = 0; i < m_editor.rowCount(); ++i)
-        rows.push_back(makeRow(i));
-    m_list->setRows(std::move(rows));
+    d->model->setRows(d->rows());
 }
 
 void CEditLayersDlgBase::update(kesto::Subject* subject, int event, void* data)
 {
-    if (subject != m_list || !data)
+    if (subject != d->list || !data)
         return;
-    guard("update", [&] {
+    guarded([&] {
         if (event == control::LIST_EVENT_CELL_CHANGED) {
             const auto* change = static_cast<const control::SListCellEvent*>(data);
-            if (change->column == ColumnFlag && change->row >= 0
-                && change->row < m_list->getRowCount())
-                updateByRowChange(m_list->getCellText(change->row, ColumnFlag),
-                                  m_list->getRow(change->row));
+            if (change->column == ColumnFlag)
+                updateByRowChange(change->row);
         } else if (event == control::LIST_EVENT_ROW_COMBO_CHANGED) {
-            const auto* change = static_cast<const control::SListRowTextEvent*>(data);
-            if (change->row >= 0 && change->row < m_list->getRowCount())
-                updateByRowChange(change->text, m_list->getRow(change->row));
+            updateByRowChange(static_cast<const control::SListRowTextEvent*>(data)->row);
         }
     });
 }
 
-// The row's flag follows its cell, and the view shows it at once.
-bool CEditLayersDlgBase::updateByRowChange(const QString& text, const SListRow& row)
+// The view shows the row's flag at once.
+bool CEditLayersDlgBase::updateByRowChange(int row)
 {
-    const int flag = flagOfText(m_flagTexts, text);
-    if (flag < 0 || row.data >= m_editor.rowCount())
+    if (!d->model->isValidRow(row))
         return false;
-    m_editor.setFlag(row.data, static_cast<char>(flag));
-    return m_editor.previewRow(row.data, static_cast<char>(flag));
+    const std::size_t record = d->model->row(row).record;
+    return d->editor.previewRow(record, d->editor.row(record).flag);
 }
 
 void CEditLayersDlgBase::changeComboboxInSelectedRow(const QString& text)
 {
-    const std::vector<int> selected = m_list->getSelectedRows();
-    if (selected.empty() || m_list->listModel()->column(ColumnFlag).type != EColumnType::Combo)
+    const std::vector<int> selected = d->list->getSelectedRows();
+    if (selected.empty())
         return;
-    m_editor.batch([&] {
+    d->editor.batch([&] {
         for (int row : selected) {
-            if (!m_list->isCellEditable(row, ColumnFlag))
+            if (!d->model->isCellEditable(row, ColumnFlag))
                 continue;
-            m_list->getRow(row).cells[ColumnFlag].text = text;
+            d->model->setCellText(row, ColumnFlag, text);
             control::SListRowTextEvent event{row, text};
-            m_list->notify(control::LIST_EVENT_ROW_COMBO_CHANGED, &event);
+            d->list->notify(control::LIST_EVENT_ROW_COMBO_CHANGED, &event);
         }
     });
-    m_list->updateRows(selected.front(), selected.back());
-    m_list->viewport()->repaint();
+    d->list->viewport()->repaint();
     updateLayers();
 }
 
 void CEditLayersDlgBase::OnBnClickedDisp()
 {
-    guard("OnBnClickedDisp", [&] { changeComboboxInSelectedRow(m_flagTexts.on); });
+    guarded([&] { changeComboboxInSelectedRow(d->flagTexts.on); });
 }
 
 void CEditLayersDlgBase::OnBnClickedUnDisp()
 {
-    guard("OnBnClickedUnDisp", [&] { changeComboboxInSelectedRow(m_flagTexts.off); });
+    guarded([&] { changeComboboxInSelectedRow(d->flagTexts.off); });
 }
 
 void CEditLayersDlgBase::OnBnClickedIgnore()
 {
-    guard("OnBnClickedIgnore", [&] { changeComboboxInSelectedRow(m_flagTexts.none); });
+    guarded([&] { changeComboboxInSelectedRow(d->flagTexts.none); });
 }
 
 void CEditLayersDlgBase::OnBnClickedKeep()
 {
-    guard("OnBnClickedKeep", [&] {
+    guarded([&] {
         if (!isForCreate())
-            changeComboboxInSelectedRow(m_flagTexts.keep);
+            changeComboboxInSelectedRow(d->flagTexts.keep);
     });
 }
 
+// Each record takes the flag its cell shows.
 void CEditLayersDlgBase::OnOK()
 {
-    guard("OnOK", [&] {
-        framework::logHandlerEntry(m_profile.className, "OnOK");
-        for (int row = 0; row < m_list->getRowCount(); ++row) {
-            const int flag = flagOfText(m_flagTexts, m_list->getCellText(row, ColumnFlag));
-            const std::uint64_t index = m_list->getRow(row).data;
-            if (flag >= 0 && index < m_editor.rowCount())
-                m_editor.setFlag(index, static_cast<char>(flag));
-        }
+    guarded([&] {
+        framework::logHandlerEntry(handlerClass(), QStringLiteral("OnOK"));
+        const bool editMode = !d->editor.isCreateMode();
+        for (std::size_t i = 0; i < d->editor.rowCount(); ++i)
+            d->editor.setFlag(i, layerflags::shownFlag(d->editor.row(i).flag, editMode));
         EndDialog(framework::IDOK);
     });
 }
 
 void CEditLayersDlgBase::OnCancel()
 {
-    guard("OnCancel", [&] {
-        framework::logHandlerEntry(m_profile.className, "OnCancel");
+    guarded([&] {
+        framework::logHandlerEntry(handlerClass(), QStringLiteral("OnCancel"));
         EndDialog(framework::IDCANCEL);
     });
 }
@@ -289,39 +352,39 @@ void CEditLayersDlgBase::done(int result)
 // The preview is undone however the dialog closes.
 void CEditLayersDlgBase::OnDestroy()
 {
-    if (m_destroyed)
+    if (d->destroyed)
         return;
-    guard("OnDestroy", [&] {
-        framework::logHandlerEntry(m_profile.className, "OnDestroy");
-        m_destroyed = true;
-        m_editor.undoPreview();
+    guarded([&] {
+        framework::logHandlerEntry(handlerClass(), QStringLiteral("OnDestroy"));
+        d->destroyed = true;
+        d->editor.undoPreview();
         saveColumnWidths();
     });
 }
 
 void CEditLayersDlgBase::resizeEvent(QResizeEvent* event)
 {
-    guard("OnSize", [&] { CKsDialog::resizeEvent(event); });
+    framework::guardHandler(handlerClass(), QStringLiteral("OnSize"),
+                            [&] { CKsDialog::resizeEvent(event); });
 }
 
 void CEditLayersDlgBase::restoreColumnWidths()
 {
     const auto& store = core::Application::getInstance()->placements();
-    const QString key = placementKey();
-    for (int column = 0; column < m_list->getColumnCount(); ++column) {
-        const int width = store.readInt(key, columnKey(column), 0);
+    for (int column = 0; column < d->list->getColumnCount(); ++column) {
+        const int width = store.readInt(placementKey(), columnKey(column), 0);
         if (width > 0)
-            m_list->setColumnWidth(column, width);
+            d->list->setColumnWidth(column, width);
     }
 }
 
 void CEditLayersDlgBase::saveColumnWidths()
 {
-    if (!m_list || m_list->getColumnCount() == 0)
+    if (!d->list || d->list->getColumnCount() == 0)
         return;
     auto& store = core::Application::getInstance()->placements();
-    for (int column = 0; column < m_list->getColumnCount(); ++column)
-        store.writeInt(placementKey(), columnKey(column), m_list->columnWidth(column));
+    for (int column = 0; column < d->list->getColumnCount(); ++column)
+        store.writeInt(placementKey(), columnKey(column), d->list->columnWidth(column));
 }
 
 } // namespace kesto::ui::config

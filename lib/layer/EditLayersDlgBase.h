@@ -1,11 +1,12 @@
 #pragma once
 
 #include "KsSystemConfigDlgExport.h"
+#include "element/ILayerFlagView.h"
 #include "framework/KsDialog.h"
-#include "layer/LayerFlagRules.h"
 #include "observer/Subject.h"
 
 #include <map>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -13,21 +14,7 @@
 class IDataBase;
 class IView;
 
-namespace kesto::ui::control {
-class CKsListCtrl;
-struct SListRow;
-} // namespace kesto::ui::control
-
 namespace kesto::ui::config {
-
-// What tells the viewport and the cross-section dialog apart.
-struct SLayerFlagsDlgProfile {
-    int templateId;
-    const char* className; // in log lines, and the key of the saved placement
-    int flagColumnTitle;   // string ids
-    int onText;
-    int offText;
-};
 
 // The one design of the layer show/hide and reference dialogs: a list of the drawing's layers
 // with a flag per layer, previewed live in the host's view and undone when the dialog closes.
@@ -39,7 +26,7 @@ public:
 
     // For a new view (mode 1).
     bool setup(IDataBase* db, IView* view, const std::map<std::wstring, char>& flags);
-    bool isForCreate() const { return m_editor.isCreateMode(); }
+    bool isForCreate() const;
 
     // Merges the result into flags; true when an entry was written.
     bool modifyLayerFlgs(std::map<std::wstring, char>& flags) const;
@@ -49,9 +36,12 @@ public:
     void updateLayers();
 
     void update(kesto::Subject* subject, int event, void* data) override;
+    QString handlerClass() const override;
 
 protected:
-    explicit CEditLayersDlgBase(const SLayerFlagsDlgProfile& profile);
+    enum EKind { ViewPorts, CrossSectionViews };
+
+    explicit CEditLayersDlgBase(EKind kind);
     bool setupViews(IDataBase* db, IView* view, const std::map<std::wstring, char>& flags,
                     std::vector<const element::ILayerFlagView*> views);
 
@@ -68,26 +58,16 @@ protected:
     void OnBnClickedKeep();
 
 private:
+    class Private;
+
     void setupList();
-    void addColumns();
-    control::SListRow makeRow(std::size_t index) const;
-    bool updateByRowChange(const QString& text, const control::SListRow& row);
+    bool updateByRowChange(int row);
     void changeComboboxInSelectedRow(const QString& text);
     void restoreColumnWidths();
     void saveColumnWidths();
     int dialogUnits(int units) const;
-    template <class F>
-    decltype(auto) guard(const char* method, F&& handler);
 
-    SLayerFlagsDlgProfile m_profile;
-    layerflags::CLayerFlagEditor m_editor;
-    layerflags::SFlagTexts m_flagTexts;
-    QString m_figureMark;
-    QString m_noFigureMark;
-    QString m_trueMark;
-    QString m_falseMark;
-    control::CKsListCtrl* m_list = nullptr;
-    bool m_destroyed = false;
+    std::unique_ptr<Private> d;
 };
 
 } // namespace kesto::ui::config

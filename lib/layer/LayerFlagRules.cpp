@@ -25,15 +25,28 @@ int flagOfText(const SFlagTexts& texts, const QString& text)
     return -1;
 }
 
-QString textOfFlag(const SFlagTexts& texts, char flag, bool editMode)
+char shownFlag(char flag, bool editMode)
 {
     switch (flag) {
+    case LayerFlagOn:
+    case LayerFlagOff:
+        return flag;
+    case LayerFlagKeep:
+        return editMode ? flag : static_cast<char>(LayerFlagNone);
+    default:
+        return LayerFlagNone;
+    }
+}
+
+QString textOfFlag(const SFlagTexts& texts, char flag, bool editMode)
+{
+    switch (shownFlag(flag, editMode)) {
     case LayerFlagOn:
         return texts.on;
     case LayerFlagOff:
         return texts.off;
     case LayerFlagKeep:
-        return editMode ? texts.keep : texts.none;
+        return texts.keep;
     default:
         return texts.none;
     }

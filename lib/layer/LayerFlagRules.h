@@ -32,7 +32,8 @@ struct SFlagTexts {
 
 // The flag a cell text stands for; -1 for any other text.
 int flagOfText(const SFlagTexts& texts, const QString& text);
-// The text of a flag: flag 3 only in edit mode; values other than 1, 2 and 3 as flag 0.
+// The flag a cell shows: flag 3 only in edit mode; values other than 1, 2 and 3 as flag 0.
+char shownFlag(char flag, bool editMode);
 QString textOfFlag(const SFlagTexts& texts, char flag, bool editMode);
 // The choices of a flag cell: blank, on, off, and in edit mode keep.
 QStringList flagItems(const SFlagTexts& texts, bool editMode);

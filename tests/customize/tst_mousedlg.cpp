@@ -28,7 +28,7 @@ using ui::config::CMouseDlg;
 using ui::config::CMousePage;
 using ui::setting::CMouseSetting;
 using ui::setting::SMouseSetting;
-namespace mouse = ui::config::mouse;
+namespace mouserules = ui::config::mouserules;
 
 namespace {
 
@@ -99,7 +99,7 @@ CMouseDlg& mouseDlg(CKsDialog& d)
 {
     return dynamic_cast<CMouseDlg&>(d);
 }
-CMousePage& page(CKsDialog& d, mouse::EPage p)
+CMousePage& page(CKsDialog& d, mouserules::EPage p)
 {
     return *mouseDlg(d).page(p);
 }
@@ -206,20 +206,23 @@ private slots:
             QCOMPARE(tabTexts(tab(d, ViewTab)), QStringList{"2Dビュー"});
             QCOMPARE(tabTexts(tab(d, ButtonTab)),
                      QStringList({"右ボタン", "左右ボタン", "ホイール"}));
-            QCOMPARE(mouseDlg(d).shownPage(), mouse::Right2D);
-            QVERIFY(page(d, mouse::Right2D).isVisible());
-            QVERIFY(!page(d, mouse::Both2D).isVisible());
+            QCOMPARE(mouseDlg(d).shownPage(), mouserules::Right2D);
+            QVERIFY(page(d, mouserules::Right2D).isVisible());
+            QVERIFY(!page(d, mouserules::Both2D).isVisible());
             QCOMPARE(core::Application::getInstance()->dialogs().find("MouseDlg"), &d);
-            CMousePage& right = page(d, mouse::Right2D);
+            CMousePage& right = page(d, mouserules::Right2D);
             QCOMPARE(rows(listOf(right, CommandList)),
                      QStringList({"元に戻す", "削除 ※", "貼り付け", "表示範囲"}));
             QVERIFY(!right.dlgItem<QWidget>(ShowMenu)->toolTip().isEmpty());
             tab(d, ButtonTab).setCurrentIndex(1);
-            QCOMPARE(mouseDlg(d).shownPage(), mouse::Both2D);
-            QVERIFY(page(d, mouse::Both2D).isVisible() && page(d, mouse::Both2D).isEnabled());
-            QVERIFY(!page(d, mouse::Right2D).isVisible() && !page(d, mouse::Right2D).isEnabled());
-            QCOMPARE(comboOf(page(d, mouse::Both2D), LeftUp).itemText(0), QStringLiteral("なし"));
-            QCOMPARE(comboOf(page(d, mouse::Both2D), LeftUp).count(), 4);
+            QCOMPARE(mouseDlg(d).shownPage(), mouserules::Both2D);
+            QVERIFY(page(d, mouserules::Both2D).isVisible()
+                    && page(d, mouserules::Both2D).isEnabled());
+            QVERIFY(!page(d, mouserules::Right2D).isVisible()
+                    && !page(d, mouserules::Right2D).isEnabled());
+            QCOMPARE(comboOf(page(d, mouserules::Both2D), LeftUp).itemText(0),
+                     QStringLiteral("なし"));
+            QCOMPARE(comboOf(page(d, mouserules::Both2D), LeftUp).count(), 4);
             QVERIFY(click(d, Help)); // the topic of the page on show
             test::pressCancel(d);
         });
@@ -234,11 +237,11 @@ private slots:
         const CMouseSetting original = fullSetting();
         CMouseSetting setting = original;
         ScopedModalDrivers drivers([](CKsDialog& d) {
-            CMousePage& both = page(d, mouse::Both2D);
+            CMousePage& both = page(d, mouserules::Both2D);
             QVERIFY(both.dlgItem<QRadioButton>(RadioSecond)->isChecked());
             QCOMPARE(comboOf(both, LeftUp).currentText(), QStringLiteral("全体表示"));
             QCOMPARE(comboOf(both, LeftDown).currentIndex(), 0);
-            CMousePage& wheel = page(d, mouse::Wheel2D);
+            CMousePage& wheel = page(d, mouserules::Wheel2D);
             QCOMPARE(comboOf(wheel, WheelRotate).currentText(),
                      QStringLiteral("ツールパネルモード変更"));
             QCOMPARE(comboOf(wheel, CtrlDrag).currentText(), QStringLiteral("スムーズスクロール"));
@@ -257,10 +260,10 @@ private slots:
         Host host;
         CMouseSetting setting = CMouseSetting::makeDefault();
         ScopedModalDrivers drivers([](CKsDialog& d) {
-            CMousePage& right = page(d, mouse::Right2D);
+            CMousePage& right = page(d, mouserules::Right2D);
             check(right, ShowMenu, false);
             check(right, Recent, false);
-            CMousePage& both = page(d, mouse::Both2D);
+            CMousePage& both = page(d, mouserules::Both2D);
             both.dlgItem<QRadioButton>(RadioFirst)->setChecked(true);
             comboOf(both, LeftUp).setCurrentIndex(3);
             comboOf(both, LeftDown).setCurrentIndex(2);
@@ -268,7 +271,7 @@ private slots:
             comboOf(both, RightUp).setCurrentIndex(1);
             comboOf(both, RightDown).setCurrentIndex(3);
             tab(d, ButtonTab).setCurrentIndex(2);
-            CMousePage& wheel = page(d, mouse::Wheel2D);
+            CMousePage& wheel = page(d, mouserules::Wheel2D);
             check(wheel, WheelCommands, false);
             comboOf(wheel, WheelRotate).setCurrentIndex(2);
             comboOf(wheel, CtrlRotate).setCurrentIndex(3);
@@ -314,7 +317,7 @@ private slots:
         view.shortcutMenu.addCommandId(L"ID_EDIT_PASTE", true);
         setting.setMouseSetting(CMouseSetting::k2DView, view);
         ScopedModalDrivers drivers([](CKsDialog& d) {
-            auto& right = page(d, mouse::Right2D);
+            auto& right = page(d, mouserules::Right2D);
             QListWidget& commands = listOf(right, CommandList);
             QListWidget& menu = listOf(right, MenuList);
             QCOMPARE(rows(menu).size(), 3); // the stored break is an item of its own
@@ -371,13 +374,13 @@ private slots:
         CMouseSetting setting = CMouseSetting::makeDefault();
         ScopedModalDrivers drivers([](CKsDialog& d) {
             tab(d, ButtonTab).setCurrentIndex(1);
-            CMousePage& both = page(d, mouse::Both2D);
+            CMousePage& both = page(d, mouserules::Both2D);
             for (int radio : {RadioSecond, RadioDisabled, RadioFirst}) {
                 both.dlgItem<QRadioButton>(radio)->setChecked(true);
                 for (int combo : {LeftUp, LeftDown, SamePoint, RightUp, RightDown})
                     QCOMPARE(comboOf(both, combo).isEnabled(), radio == RadioFirst);
             }
-            CMousePage& wheel = page(d, mouse::Wheel2D);
+            CMousePage& wheel = page(d, mouserules::Wheel2D);
             tab(d, ButtonTab).setCurrentIndex(2);
             for (bool on : {false, true}) {
                 check(wheel, WheelCommands, on);
@@ -408,29 +411,30 @@ private slots:
             views.setCurrentIndex(1);
             QCOMPARE(tabTexts(tab(d, ButtonTab)),
                      QStringList({"右ボタン", "左ボタン", "左右ボタン", "ホイール"}));
-            QCOMPARE(mouseDlg(d).shownPage(), mouse::Right3D);
-            QCOMPARE(rows(listOf(page(d, mouse::Right3D), CommandList)),
+            QCOMPARE(mouseDlg(d).shownPage(), mouserules::Right3D);
+            QCOMPARE(rows(listOf(page(d, mouserules::Right3D), CommandList)),
                      QStringList({"上面", "再描画"}));
-            const std::pair<mouse::EPage, QString> groups[] = {{mouse::Left3D, "ドラッグ時"},
-                                                               {mouse::Both3D, "ドラッグ時"},
-                                                               {mouse::Wheel3D, "回転時"}};
+            const std::pair<mouserules::EPage, QString> groups[] = {
+                {mouserules::Left3D, "ドラッグ時"},
+                {mouserules::Both3D, "ドラッグ時"},
+                {mouserules::Wheel3D, "回転時"}};
             for (int i = 1; i <= 3; ++i) {
                 tab(d, ButtonTab).setCurrentIndex(i);
                 const auto& [shown, title] = groups[i - 1];
                 QCOMPARE(mouseDlg(d).shownPage(), shown);
                 QCOMPARE(page(d, shown).dlgItem<QGroupBox>(8048)->title(), title);
             }
-            auto& left = static_cast<ui::config::CSimplePage&>(page(d, mouse::Left3D));
+            auto& left = static_cast<ui::config::CSimplePage&>(page(d, mouserules::Left3D));
             QCOMPARE(left.dlgItem<QRadioButton>(RadioFirst)->text(), QStringLiteral("回転"));
             QVERIFY(left.isFirstChosen()); // the default rotates
             left.chooseFirst(false);
-            auto& wheel = static_cast<ui::config::CSimplePage&>(page(d, mouse::Wheel3D));
+            auto& wheel = static_cast<ui::config::CSimplePage&>(page(d, mouserules::Wheel3D));
             QCOMPARE(wheel.dlgItem<QRadioButton>(RadioSecond)->text(),
                      QStringLiteral("Ｘ軸まわりに回転"));
             wheel.chooseFirst(false);
             views.setCurrentIndex(0);
             QCOMPARE(tabTexts(tab(d, ButtonTab)).size(), 3);
-            QCOMPARE(mouseDlg(d).shownPage(), mouse::Right2D);
+            QCOMPARE(mouseDlg(d).shownPage(), mouserules::Right2D);
             test::pressOk(d);
         });
         QVERIFY(host.run(setting));
@@ -453,9 +457,10 @@ private slots:
         const SMouseSetting before3D = view3D;
         ScopedModalDrivers drivers([](CKsDialog& d) {
             QVERIFY(mouseDlg(d).isTwoDimensionalOnly());
-            for (mouse::EPage p : {mouse::Right3D, mouse::Left3D, mouse::Both3D, mouse::Wheel3D})
+            for (mouserules::EPage p :
+                 {mouserules::Right3D, mouserules::Left3D, mouserules::Both3D, mouserules::Wheel3D})
                 QVERIFY(!mouseDlg(d).page(p));
-            check(page(d, mouse::Right2D), ShowMenu, true);
+            check(page(d, mouserules::Right2D), ShowMenu, true);
             test::pressOk(d);
         });
         QVERIFY(host.run(setting));
@@ -496,12 +501,12 @@ private slots:
                      QStringLiteral("マウスの設定を初期化します。\nよろしいですか？"));
             QCOMPARE(boxes.last().caption, QStringLiteral("設定初期化"));
             QCOMPARE(boxes.last().type, unsigned(MB_OKCANCEL | MB_ICONQUESTION));
-            QVERIFY(page(d, mouse::Both2D).dlgItem<QRadioButton>(RadioSecond)->isChecked());
+            QVERIFY(page(d, mouserules::Both2D).dlgItem<QRadioButton>(RadioSecond)->isChecked());
             QVERIFY(click(d, Reset)); // answered with OK
-            QVERIFY(page(d, mouse::Both2D).dlgItem<QRadioButton>(RadioFirst)->isChecked());
-            QCOMPARE(comboOf(page(d, mouse::Wheel2D), WheelDrag).currentText(),
+            QVERIFY(page(d, mouserules::Both2D).dlgItem<QRadioButton>(RadioFirst)->isChecked());
+            QCOMPARE(comboOf(page(d, mouserules::Wheel2D), WheelDrag).currentText(),
                      QStringLiteral("スムーズスクロール"));
-            QVERIFY(page(d, mouse::Right2D).dlgItem<QCheckBox>(ShowMenu)->isChecked());
+            QVERIFY(page(d, mouserules::Right2D).dlgItem<QCheckBox>(ShowMenu)->isChecked());
             test::pressCancel(d);
         });
         drivers.add([&](CKsDialog& d) {
@@ -530,9 +535,9 @@ private slots:
         Host host;
         CMouseSetting setting = CMouseSetting::makeDefault();
         ScopedModalDrivers drivers([](CKsDialog& d) {
-            QCOMPARE(listOf(page(d, mouse::Right2D), CommandList).count(), 0);
-            QCOMPARE(comboOf(page(d, mouse::Both2D), LeftUp).count(), 1);
-            QCOMPARE(comboOf(page(d, mouse::Wheel2D), WheelClick).itemText(0),
+            QCOMPARE(listOf(page(d, mouserules::Right2D), CommandList).count(), 0);
+            QCOMPARE(comboOf(page(d, mouserules::Both2D), LeftUp).count(), 1);
+            QCOMPARE(comboOf(page(d, mouserules::Wheel2D), WheelClick).itemText(0),
                      QStringLiteral("なし"));
             test::pressOk(d);
         });

@@ -9,7 +9,7 @@
 #include <QTest>
 
 using namespace kesto;
-using namespace kesto::ui::config::mouse;
+using namespace kesto::ui::config::mouserules;
 using ui::setting::SMouseSetting;
 
 namespace {

@@ -9,7 +9,7 @@
 #include <QTest>
 
 using namespace kesto;
-using namespace kesto::ui::config::drawcommon;
+using namespace kesto::ui::config::drawcommonrules;
 using kesto::ui::config::SDrawCommonDlgData;
 using kesto::ui::setting::CDrawCommonSetting;
 
@@ -100,21 +100,16 @@ private slots:
         QCOMPARE(lineWidthToSelect(s).getKind(), int(KsLineWidth::ExtraBold));
     }
 
-    void lineEndsAndNamesOnlyWhereSomethingIsChosen()
+    void namesOnlyWhereSomethingIsChosen()
     {
-        CDrawCommonSetting s;
-        storeLineEnds(s, std::wstring(L"矢印"), std::nullopt);
-        QVERIFY(s.getStartLineEndName() == L"矢印");
-        QVERIFY(s.getEndLineEndName() == CDrawCommonSetting().getEndLineEndName());
-
         SDrawCommonDlgData data;
         data.coordinateSystemName = L"旧座標";
         data.scaleName = L"1/100";
-        storeNames(&data, {{{-1, L"平面直角座標系 IX"}, {0, L"1/500"}, {2, L"構造物"}}});
+        storeName(data, ListCoordinateSystem, {-1, L"平面直角座標系 IX"});
+        storeName(data, ListScale, {0, L"1/500"});
+        storeName(data, ListLayer, {2, L"構造物"});
         QVERIFY(data.coordinateSystemName == L"旧座標");
         QVERIFY(data.scaleName == L"1/500");
-        QVERIFY(data.layerName == L"構造物");
-        storeNames(nullptr, {{{0, L"x"}, {0, L"y"}, {0, L"z"}}}); // no record: nothing to do
         QCOMPARE(recordNames(data)[ListLayer], std::wstring(L"構造物"));
 
         QVERIFY(!canReferToDrawing(nullptr));

@@ -99,7 +99,7 @@ private slots:
             QCOMPARE(columnTexts(list, 3), QStringList({"○", "○", "○", "○", "×"}));
             QCOMPARE(columnTexts(list, 4), QStringList({"○", "○", "○", "○", "×"}));
             QCOMPARE(list.getCellColor(OldGround, 6), QRgb(0x808080));
-            QCOMPARE(list.listModel()->column(0).items, QStringList({" ", "表示", "非表示"}));
+            QCOMPARE(list.tableModel()->column(0).items, QStringList({" ", "表示", "非表示"}));
             QVERIFY(list.isCellEditable(0, 0) && !list.isCellEditable(0, 5));
             const QModelIndex flagCell = list.model()->index(0, 0);
             QCOMPARE(flagCell.data(Qt::BackgroundRole).value<QColor>(), QColor(255, 240, 198));
@@ -141,7 +141,7 @@ private slots:
             CKsListCtrl& list = listOf(d);
             QCOMPARE(test::headerTexts(list).first(), QStringLiteral("参照・非参照"));
             QCOMPARE(columnTexts(list, 0), QStringList({" ", "(そのまま)", " ", "非参照", " "}));
-            QCOMPARE(list.listModel()->column(0).items,
+            QCOMPARE(list.tableModel()->column(0).items,
                      QStringList({" ", "参照", "非参照", "(そのまま)"}));
             QCOMPARE(buttonText(d, On), QStringLiteral("参照"));
             QCOMPARE(buttonText(d, Off), QStringLiteral("非参照"));

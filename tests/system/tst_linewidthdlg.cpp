@@ -166,30 +166,28 @@ private slots:
         QCOMPARE(setting.getLineWidths()[3].getColor(), 0x000000u);
     }
 
-    void typedWidthsAreCheckedAndDuplicatesDroppedSilently()
+    // A width another entry has is dropped silently; others are read as typed, 0 included.
+    void typedWidthsAreReadAndDuplicatesDroppedSilently()
     {
         test::HostFixture host;
         MessageBoxRecorder boxes;
         CLineWidthSetting setting = fourWidths();
         ScopedModalDrivers drivers([&](CKsDialog& d) {
             CKsListCtrl& list = listOf(d);
-            QVERIFY(list.commitCellText(2, 1, QStringLiteral("0.6")));
+            QVERIFY(!list.commitCellText(2, 1, QStringLiteral("0.6")));
+            QVERIFY(!list.commitCellText(2, 1, QStringLiteral("0.13")));
             QCOMPARE(list.getCellText(2, 1), QStringLiteral("0.3"));
-            QVERIFY(list.commitCellText(2, 1, QStringLiteral("0.13")));
-            QCOMPARE(list.getCellText(2, 1), QStringLiteral("0.3"));
-            QCOMPARE(boxes.count(), std::size_t(0));
+            QVERIFY(list.commitCellText(2, 1, QStringLiteral("0.3004")));
             QVERIFY(list.commitCellText(3, 1, QStringLiteral("太め")));
-            QCOMPARE(list.getCellText(3, 1), QStringLiteral("0.6"));
-            QCOMPARE(test::lastBox(boxes),
-                     QStringLiteral("入力値エラー|4 行目の幅には 0 より大きい数値を入力して"
-                                    "ください。"));
+            QCOMPARE(list.getCellText(3, 1), QStringLiteral("0"));
             QVERIFY(!list.commitCellText(0, 1, QStringLiteral("0.1"))); // fixed entry
-            QVERIFY(list.commitCellText(3, 1, QStringLiteral("0.7")));
-            QCOMPARE(comboOf(d, ExtraBold).currentIndex(), -1); // 0.6 is gone
+            QCOMPARE(comboOf(d, ExtraBold).currentIndex(), -1);         // 0.6 is gone
             test::pressOk(d);
         });
         QVERIFY(ui::config::doLineWidthDlg(setting, {}, nullptr));
-        QCOMPARE(names(setting), QStringList({"0.13", "0.18", "0.3", "0.7"}));
+        QCOMPARE(boxes.count(), std::size_t(0));
+        QCOMPARE(setting.getLineWidths()[2].getWidth(), 0.3004);
+        QCOMPARE(names(setting), QStringList({"0.13", "0.18", "0.3", "0"}));
     }
 
     void coloursAndTheKindsChosenAreStored()

@@ -64,7 +64,7 @@ private slots:
             QCOMPARE(list.columnWidth(11), 70);
             QCOMPARE(rowTexts(list, 1), QStringList({"A3", "25", "10", "10", "10", "2", "2", "120",
                                                      "40", "○", "×", "○"}));
-            QCOMPARE(list.listModel()->column(10).items, QStringList({"○", "×"}));
+            QCOMPARE(list.tableModel()->column(10).items, QStringList({"○", "×"}));
             auto* color = d.dlgItem<CSystemColorComboBox>(InnerColor);
             QCOMPARE(color->itemText(0), QStringLiteral("レイヤ依存"));
             QCOMPARE(color->itemText(color->count() - 1), QStringLiteral("他の色"));
@@ -154,7 +154,8 @@ private slots:
         QVERIFY(setting.isSame(twoFrames()));
     }
 
-    void aDimensionMustBeAWholeNumberAboveZero()
+    // Dimensions are read as integers when typed, without bounds or messages.
+    void dimensionsAreReadAsIntegers()
     {
         test::HostFixture host;
         host.putTables();
@@ -162,20 +163,18 @@ private slots:
         CSystemPaperFrameSetting setting = twoFrames();
         ScopedModalDrivers drivers([&](CKsDialog& d) {
             CKsListCtrl& list = listOf(d);
-            list.commitCellText(1, 3, QStringLiteral("12"));
-            list.commitCellText(1, 3, QStringLiteral("0"));
+            list.commitCellText(1, 3, QStringLiteral("12.5"));
             QCOMPARE(list.getCellText(1, 3), QStringLiteral("12"));
-            QCOMPARE(test::lastBox(boxes),
-                     QStringLiteral("入力値エラー|2 行目のCには 0 より大きい数値を入力して"
-                                    "ください。"));
-            list.commitCellText(0, 1, QStringLiteral("2.5"));
-            QCOMPARE(list.getCellText(0, 1), QStringLiteral("30"));
-            QCOMPARE(boxes.count(), std::size_t(2));
+            list.commitCellText(0, 1, QStringLiteral("0"));
+            list.commitCellText(0, 2, QStringLiteral("abc"));
+            list.commitCellText(0, 4, QStringLiteral("-3"));
             test::pressOk(d);
         });
         QVERIFY(ui::config::doSystemPaperFrameDlg(setting, {}));
+        QCOMPARE(boxes.count(), std::size_t(0));
         QCOMPARE(setting.getPaperFrames()[1].dimensions[2], 12);
-        QCOMPARE(setting.getPaperFrames()[0].dimensions[0], 30);
+        const auto& first = setting.getPaperFrames()[0].dimensions;
+        QCOMPARE((std::vector<int>{first[0], first[1], first[3]}), (std::vector<int>{0, 0, -3}));
     }
 
     void thePictureShowsTheSelectedFramesValues()

@@ -121,7 +121,8 @@ private slots:
         QCOMPARE(setting.getSystemScales()[1].denominator, 1.234568);
     }
 
-    void valuesThatAreNotAboveZeroAreRefusedWithAMessage()
+    // Any typed value is read, kept with six decimals and named after; 0 too.
+    void everyTypedValueIsStoredWithoutAMessage()
     {
         test::HostFixture host;
         MessageBoxRecorder boxes;
@@ -129,20 +130,15 @@ private slots:
         ScopedModalDrivers drivers([&](CKsDialog& d) {
             CKsListCtrl& list = listOf(d);
             list.commitCellText(1, 2, QStringLiteral("abc"));
-            QCOMPARE(list.getCellText(1, 2), QStringLiteral("200"));
-            QCOMPARE(test::lastBox(boxes),
-                     QStringLiteral("入力値エラー|2 行目の分母には 0 より大きい数値を入力して"
-                                    "ください。"));
-            list.commitCellText(0, 1, QStringLiteral("0.0000004")); // rounds to zero
-            QCOMPARE(test::lastBox(boxes),
-                     QStringLiteral("入力値エラー|1 行目の分子には 0 より大きい数値を入力して"
-                                    "ください。"));
-            QCOMPARE(list.getCellText(0, 1), QStringLiteral("1"));
-            QCOMPARE(boxes.count(), std::size_t(2));
+            QCOMPARE(list.getCellText(1, 2), QStringLiteral("0"));
+            list.commitCellText(0, 1, QStringLiteral("0.0000004"));
+            QCOMPARE(list.getCellText(0, 1), QStringLiteral("0"));
+            list.commitCellText(0, 2, QStringLiteral("-5"));
             test::pressOk(d);
         });
         QVERIFY(doSystemScaleDlg(setting, {}));
-        QCOMPARE(names(setting), QStringList({"1/100", "1/200"}));
+        QCOMPARE(boxes.count(), std::size_t(0));
+        QCOMPARE(names(setting), QStringList({"0/-5", "1/0"}));
     }
 
     void insertAndDeleteActOnTheSelectedRow()

@@ -9,8 +9,8 @@
 namespace kesto::ui::framework {
 
 namespace {
-// The host's own texts (message box buttons and the like).
-const QString kHostTranslations = QStringLiteral(":/i18n/KsHost");
+// The host's own texts (message box buttons and the like), a catalog of the host's library.
+const QString kHostName = QStringLiteral("KsHost");
 const int kHostOwner = 0;
 } // namespace
 
@@ -126,8 +126,8 @@ QStringList ResourceChain::setLanguage(const QString& language)
     QStringList missing;
     if (language == QLatin1String(kSourceLanguage))
         return missing;
-    if (!installTranslations(&kHostOwner, kHostTranslations))
-        missing << kHostTranslations;
+    if (!installTranslations(&kHostOwner, QStringLiteral(":/i18n/") + kHostName))
+        missing << kHostName;
     for (const ResourceModule* module : m_modules) {
         if (!installTranslations(module, module->translations()))
             missing << module->name();

@@ -84,8 +84,9 @@ public:
 
     // The language texts and layouts are shown in ("ja", "en"), chosen by the host: installs
     // the translations of every module for it (and of modules added later) with the host's
-    // own. The source language needs none. Returns the translations that could not be
-    // installed (no application object, no such file): their texts stay in the source language.
+    // own. The source language needs none. Returns the modules whose translations could not
+    // be installed (no application object, no such file): their texts stay in the source
+    // language.
     QStringList setLanguage(const QString& language);
     const QString& language() const { return m_language; }
 

@@ -10,6 +10,7 @@ BUILD_DIR=${BUILD_DIR:-build}
 PACKAGES=(
     g++ cmake ninja-build pkg-config ccache
     qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins
+    qt6-tools-dev qt6-l10n-tools qt6-translations-l10n
     libbenchmark-dev libdxflib-dev
     fonts-ipafont-gothic
 )

@@ -1,3 +1,4 @@
+#include "language/Language.h"
 #include "session/Session.h"
 #include "window/CommandActions.h"
 #include "window/Screenshots.h"
@@ -25,14 +26,29 @@ void printLine(const QString& text)
 
 QString describe(const workbench::SettingsStore::Problem& p)
 {
-    QString text = QStringLiteral("設定ファイル %1 を読み込めませんでした (%2)。既定値を使います。")
+    QString text = QCoreApplication::translate(
+                       "main", "設定ファイル %1 を読み込めませんでした (%2)。既定値を使います。")
                        .arg(QDir::toNativeSeparators(p.file), p.reason);
     if (!p.backup.isEmpty())
-        text += QStringLiteral("\n元のファイルは %1 に退避しました。")
+        text += QCoreApplication::translate("main", "\n元のファイルは %1 に退避しました。")
                     .arg(QDir::toNativeSeparators(p.backup));
     else
-        text += QStringLiteral("\n元のファイルを退避できなかったため、この設定は保存されません。");
+        text += QCoreApplication::translate(
+            "main", "\n元のファイルを退避できなかったため、この設定は保存されません。");
     return text;
+}
+
+// The language from --lang or the locale; false when --lang names one the workbench lacks.
+bool useLanguage(const QString& option)
+{
+    const std::optional<QString> language = workbench::chooseLanguage(option, QLocale::system());
+    if (!language) {
+        printLine(QStringLiteral("--lang: no dialogs in \"%1\"; use ja or en.").arg(option));
+        return false;
+    }
+    for (const QString& missing : workbench::installLanguage(*language))
+        printLine(QStringLiteral("translations not found: %1").arg(missing));
+    return true;
 }
 
 std::shared_ptr<core::CSystemConfig> setUpHost(const QString& settingsFolder)
@@ -75,8 +91,11 @@ int main(int argc, char* argv[])
     const QCommandLineOption shotOption(QStringLiteral("screenshot"),
                                         QStringLiteral("Render every dialog to PNG in DIR."),
                                         QStringLiteral("DIR"));
-    parser.addOptions({settingsOption, drawingOption, shotOption});
+    const QCommandLineOption languageOption = workbench::languageOption();
+    parser.addOptions({settingsOption, drawingOption, shotOption, languageOption});
     parser.process(app);
+    if (!useLanguage(parser.value(languageOption)))
+        return 2;
 
     const QString settingsFolder =
         parser.isSet(settingsOption)
@@ -95,7 +114,7 @@ int main(int argc, char* argv[])
     if (parser.isSet(drawingOption)) {
         QString error;
         if (!session.openDrawing(parser.value(drawingOption), &error))
-            notices << QStringLiteral("図面を開けませんでした: %1").arg(error);
+            notices << QCoreApplication::translate("main", "図面を開けませんでした: %1").arg(error);
     }
     for (const QString& notice : notices)
         printLine(notice);

@@ -14,10 +14,9 @@ namespace kesto::workbench {
 
 namespace {
 
-const QString& byLayerText()
+QString byLayerText()
 {
-    static const QString text = QStringLiteral("レイヤ依存");
-    return text;
+    return CFigureListModel::tr("レイヤ依存");
 }
 
 QString rgbText(std::uint32_t rgb)
@@ -129,8 +128,11 @@ QVariant CFigureListModel::headerData(int section, Qt::Orientation orientation, 
 {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return QAbstractTableModel::headerData(section, orientation, role);
-    static const char* const titles[ColumnCount] = {"No.", "種類", "レイヤ", "色", "線種", "線幅"};
-    return section >= 0 && section < ColumnCount ? QString::fromUtf8(titles[section]) : QVariant();
+    static const char* const titles[ColumnCount] = {//: Column: the figure's number in the drawing
+                                                    QT_TR_NOOP("No."),    QT_TR_NOOP("種類"),
+                                                    QT_TR_NOOP("レイヤ"), QT_TR_NOOP("色"),
+                                                    QT_TR_NOOP("線種"),   QT_TR_NOOP("線幅")};
+    return section >= 0 && section < ColumnCount ? tr(titles[section]) : QVariant();
 }
 
 QString CFigureListModel::colorText(const KsFigure& figure,
@@ -158,11 +160,11 @@ QString CFigureListModel::widthText(const KsFigure& figure)
     case KsLineWidth::ByLayer:
         return byLayerText();
     case KsLineWidth::Thin:
-        return QStringLiteral("細線 (%1)").arg(mm);
+        return tr("細線 (%1)").arg(mm);
     case KsLineWidth::Bold:
-        return QStringLiteral("太線 (%1)").arg(mm);
+        return tr("太線 (%1)").arg(mm);
     case KsLineWidth::ExtraBold:
-        return QStringLiteral("極太線 (%1)").arg(mm);
+        return tr("極太線 (%1)").arg(mm);
     default:
         return mm;
     }

@@ -71,8 +71,7 @@ bool CFigurePickDlg::OnInitDialog()
 
 void CFigurePickDlg::fillLayers()
 {
-    m_layer->addItem(QStringLiteral("すべてのレイヤ"),
-                     QVariant::fromValue<const KsLayer*>(nullptr));
+    m_layer->addItem(tr("すべてのレイヤ"), QVariant::fromValue<const KsLayer*>(nullptr));
     for (const KsLayer* layer : m_model->layers()) {
         if (layer)
             m_layer->addItem(QString::fromStdWString(layer->getName()), QVariant::fromValue(layer));
@@ -81,7 +80,7 @@ void CFigurePickDlg::fillLayers()
 
 void CFigurePickDlg::showCount()
 {
-    m_count->setText(QStringLiteral("%1 個の要素").arg(QLocale().toString(m_model->rowCount())));
+    m_count->setText(tr("%1 個の要素").arg(QLocale().toString(m_model->rowCount())));
 }
 
 const KsFigure* CFigurePickDlg::selectedFigure() const

@@ -4,6 +4,8 @@
 
 #include "core/SystemConfig.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <typeinfo>
 
@@ -105,7 +107,7 @@ const DrawingTopic* Session::findDrawingTopic(const QString& id) const
 bool Session::openDrawingTopic(const DrawingTopic& topic, QString* message)
 {
     if (!m_drawing) {
-        *message = QStringLiteral("図面を開いてください。");
+        *message = QCoreApplication::translate("Session", "図面を開いてください。");
         return false;
     }
     return topic.open(*this, message);

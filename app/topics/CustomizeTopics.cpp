@@ -58,10 +58,10 @@ std::function<void(ui::framework::CKsDialog&)> showButtonTab(int index)
 void addCustomizeTopics(std::vector<Topic>& topics)
 {
     using ui::setting::CShortCutSetting;
-    const QString group = QStringLiteral("ユーザーインターフェース");
+    const QString group = QCoreApplication::translate("Topics", "ユーザーインターフェース");
     topics.push_back(makeSettingTopic<CShortCutSetting>(
-        group, QStringLiteral("ショートカットキーの設定"), QStringLiteral("shortcut-keys"),
-        &defaultShortCuts,
+        group, QCoreApplication::translate("Topics", "ショートカットキーの設定"),
+        QStringLiteral("shortcut-keys"), &defaultShortCuts,
         [](CShortCutSetting& setting, const CShortCutSetting&) {
             return ui::config::doShortCutDlg(setting, commandTable());
         },
@@ -69,7 +69,8 @@ void addCustomizeTopics(std::vector<Topic>& topics)
 
     using ui::setting::CMouseSetting;
     topics.push_back(makeSettingTopic<CMouseSetting>(
-        group, QStringLiteral("マウスの設定"), QStringLiteral("mouse"), &CMouseSetting::makeDefault,
+        group, QCoreApplication::translate("Topics", "マウスの設定"), QStringLiteral("mouse"),
+        &CMouseSetting::makeDefault,
         [](CMouseSetting& setting, const CMouseSetting& defaults) {
             return ui::config::doMouseDlg(
                 setting, defaults, mouseCommandFile().toStdWString().c_str(), commandTable());

@@ -10,6 +10,7 @@
 #include "types/KsFigure.h"
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QItemSelectionModel>
 #include <QTableView>
 
@@ -75,7 +76,8 @@ void addDrawTopics(std::vector<Topic>& topics)
 {
     using ui::setting::CDrawCommonSetting;
     topics.push_back(makeSettingTopic<CDrawCommonSetting>(
-        QStringLiteral("要素の作図設定"), QStringLiteral("共通設定"), QStringLiteral("draw-common"),
+        QCoreApplication::translate("Topics", "要素の作図設定"),
+        QCoreApplication::translate("Topics", "共通設定"), QStringLiteral("draw-common"),
         [] { return CDrawCommonSetting(); }, &editCommon,
         {{QString(), {}}, {QStringLiteral("reference"), pickFromDrawing}}));
 }

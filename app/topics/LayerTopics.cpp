@@ -8,6 +8,7 @@
 #include "res/Resource.h"
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 
 namespace kesto::workbench {
 
@@ -67,36 +68,43 @@ bool report(const SLayerDialogOutcome& outcome, QString* message)
 
 void addLayerDrawingTopics(std::vector<DrawingTopic>& topics)
 {
-    const QString group = QStringLiteral("図面のレイヤ");
+    const QString group = QCoreApplication::translate("Topics", "図面のレイヤ");
     const std::vector<Shot> createShots{{QString(), {}}, {QStringLiteral("flags"), setSomeFlags}};
     const std::vector<Shot> editShots{{QString(), {}}, {QStringLiteral("keep"), keepSomeRows}};
-    topics.push_back({group, QStringLiteral("表示・非表示レイヤの設定 (新しいビューポート)"),
-                      QStringLiteral("layer-viewport-new"),
-                      [](Session& s, QString* message) {
-                          return report(createViewPort(*s.drawing(), s.view()), message);
-                      },
-                      createShots});
-    topics.push_back({group, QStringLiteral("表示・非表示レイヤの設定 (ビューポートの編集)"),
-                      QStringLiteral("layer-viewport-edit"),
-                      [](Session& s, QString* message) {
-                          const auto views = chosen(s, viewPortsOf(*s.drawing()));
-                          return report(editViewPorts(*s.drawing(), s.view(), views), message);
-                      },
-                      editShots});
-    topics.push_back({group, QStringLiteral("参照・非参照レイヤの設定 (新しい断面ビュー)"),
-                      QStringLiteral("layer-section-new"),
-                      [](Session& s, QString* message) {
-                          return report(createCrossSectionView(*s.drawing(), s.view()), message);
-                      },
-                      createShots});
-    topics.push_back({group, QStringLiteral("参照・非参照レイヤの設定 (断面ビューの編集)"),
-                      QStringLiteral("layer-section-edit"),
-                      [](Session& s, QString* message) {
-                          const auto views = chosen(s, crossSectionViewsOf(*s.drawing()));
-                          return report(editCrossSectionViews(*s.drawing(), s.view(), views),
-                                        message);
-                      },
-                      editShots});
+    topics.push_back(
+        {group,
+         QCoreApplication::translate("Topics", "表示・非表示レイヤの設定 (新しいビューポート)"),
+         QStringLiteral("layer-viewport-new"),
+         [](Session& s, QString* message) {
+             return report(createViewPort(*s.drawing(), s.view()), message);
+         },
+         createShots});
+    topics.push_back(
+        {group,
+         QCoreApplication::translate("Topics", "表示・非表示レイヤの設定 (ビューポートの編集)"),
+         QStringLiteral("layer-viewport-edit"),
+         [](Session& s, QString* message) {
+             const auto views = chosen(s, viewPortsOf(*s.drawing()));
+             return report(editViewPorts(*s.drawing(), s.view(), views), message);
+         },
+         editShots});
+    topics.push_back(
+        {group,
+         QCoreApplication::translate("Topics", "参照・非参照レイヤの設定 (新しい断面ビュー)"),
+         QStringLiteral("layer-section-new"),
+         [](Session& s, QString* message) {
+             return report(createCrossSectionView(*s.drawing(), s.view()), message);
+         },
+         createShots});
+    topics.push_back(
+        {group,
+         QCoreApplication::translate("Topics", "参照・非参照レイヤの設定 (断面ビューの編集)"),
+         QStringLiteral("layer-section-edit"),
+         [](Session& s, QString* message) {
+             const auto views = chosen(s, crossSectionViewsOf(*s.drawing()));
+             return report(editCrossSectionViews(*s.drawing(), s.view(), views), message);
+         },
+         editShots});
 }
 
 } // namespace kesto::workbench

@@ -7,6 +7,7 @@
 #include "control/KsListCtrl.h"
 #include "res/Resource.h"
 
+#include <QCoreApplication>
 #include <QTabBar>
 
 namespace kesto::workbench {
@@ -42,24 +43,27 @@ bool editLineWidths(ui::setting::CLineWidthSetting& setting,
 void addSystemTopics(std::vector<Topic>& topics)
 {
     using ui::setting::CSystemScaleSetting;
-    const QString group = QStringLiteral("システム設定");
+    const QString group = QCoreApplication::translate("Topics", "システム設定");
     topics.push_back(makeSettingTopic<CSystemScaleSetting>(
-        group, QStringLiteral("スケールの設定"), QStringLiteral("system-scale"),
-        &CSystemScaleSetting::makeDefault, &ui::config::doSystemScaleDlg,
+        group, QCoreApplication::translate("Topics", "スケールの設定"),
+        QStringLiteral("system-scale"), &CSystemScaleSetting::makeDefault,
+        &ui::config::doSystemScaleDlg,
         {{QString(), {}}, {QStringLiteral("drawing"), showDrawingTab}}));
     using ui::setting::CLineWidthSetting;
     topics.push_back(makeSettingTopic<CLineWidthSetting>(
-        group, QStringLiteral("線幅の設定"), QStringLiteral("system-linewidth"),
-        &CLineWidthSetting::makeDefault, &editLineWidths,
+        group, QCoreApplication::translate("Topics", "線幅の設定"),
+        QStringLiteral("system-linewidth"), &CLineWidthSetting::makeDefault, &editLineWidths,
         {{QString(), {}}, {QStringLiteral("drawing"), showDrawingTab}}));
     using ui::setting::CSystemPaperSizeSetting;
     topics.push_back(makeSettingTopic<CSystemPaperSizeSetting>(
-        group, QStringLiteral("用紙サイズの設定"), QStringLiteral("system-papersize"),
-        &CSystemPaperSizeSetting::makeDefault, &ui::config::doPaperSizeDlg));
+        group, QCoreApplication::translate("Topics", "用紙サイズの設定"),
+        QStringLiteral("system-papersize"), &CSystemPaperSizeSetting::makeDefault,
+        &ui::config::doPaperSizeDlg));
     using ui::setting::CSystemPaperFrameSetting;
     topics.push_back(makeSettingTopic<CSystemPaperFrameSetting>(
-        group, QStringLiteral("図面枠の設定"), QStringLiteral("system-paperframe"),
-        &CSystemPaperFrameSetting::makeDefault, &ui::config::doSystemPaperFrameDlg,
+        group, QCoreApplication::translate("Topics", "図面枠の設定"),
+        QStringLiteral("system-paperframe"), &CSystemPaperFrameSetting::makeDefault,
+        &ui::config::doSystemPaperFrameDlg,
         {{QString(), {}}, {QStringLiteral("selected"), selectSecondRow}}));
 }
 

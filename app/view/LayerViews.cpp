@@ -7,6 +7,8 @@
 #include "element/KsViewPort.h"
 #include "framework/DialogIds.h"
 
+#include <QCoreApplication>
+
 #include <memory>
 
 namespace kesto::workbench {
@@ -41,15 +43,15 @@ SLayerDialogOutcome createView(CMemoryDataBase& db, IView& view, const wchar_t* 
     const std::unique_ptr<ui::config::CEditLayersDlgBase> dialog(
         create(&db, &view, LayerFlagMap()));
     if (!dialog)
-        return {false, QStringLiteral("図面にレイヤがありません。")};
+        return {false, QCoreApplication::translate("LayerViews", "図面にレイヤがありません。")};
     if (dialog->DoModal() != ui::framework::IDOK)
-        return {false, QStringLiteral("キャンセルしました。")};
+        return {false, QCoreApplication::translate("LayerViews", "キャンセルしました。")};
     LayerFlagMap flags;
     dialog->modifyLayerFlgs(flags);
     auto* created = db.add<View>(nextName<View>(db, type, base));
     created->setLayerFlgs(std::move(flags));
     view.redraw();
-    return {true, QStringLiteral("「%1」を作成しました。")
+    return {true, QCoreApplication::translate("LayerViews", "「%1」を作成しました。")
                       .arg(QString::fromStdWString(created->getViewName()))};
 }
 
@@ -58,15 +60,15 @@ SLayerDialogOutcome editViews(CMemoryDataBase& db, IView& view, const std::vecto
                               Edit edit)
 {
     if (views.empty())
-        return {false, QStringLiteral("編集するビューがありません。")};
+        return {false, QCoreApplication::translate("LayerViews", "編集するビューがありません。")};
     const std::vector<const Interface*> edited(views.begin(), views.end());
     const std::vector<const element::ILayerFlagView*> flagViews(views.begin(), views.end());
     const std::unique_ptr<ui::config::CEditLayersDlgBase> dialog(
         edit(&db, &view, commonFlags(flagViews), edited));
     if (!dialog)
-        return {false, QStringLiteral("図面にレイヤがありません。")};
+        return {false, QCoreApplication::translate("LayerViews", "図面にレイヤがありません。")};
     if (dialog->DoModal() != ui::framework::IDOK)
-        return {false, QStringLiteral("キャンセルしました。")};
+        return {false, QCoreApplication::translate("LayerViews", "キャンセルしました。")};
     int changed = 0;
     for (View* target : views) {
         LayerFlagMap flags = target->getLayerFlgs();
@@ -77,8 +79,11 @@ SLayerDialogOutcome editViews(CMemoryDataBase& db, IView& view, const std::vecto
     }
     if (changed > 0)
         view.redraw();
-    return {changed > 0, changed > 0 ? QStringLiteral("%1 個のビューを変更しました。").arg(changed)
-                                     : QStringLiteral("ビューは変更されていません。")};
+    return {changed > 0,
+            changed > 0
+                ? QCoreApplication::translate("LayerViews", "%1 個のビューを変更しました。")
+                      .arg(changed)
+                : QCoreApplication::translate("LayerViews", "ビューは変更されていません。")};
 }
 
 } // namespace
@@ -136,8 +141,12 @@ QString describeView(const element::ILayerFlagView& view)
     const bool viewport = dynamic_cast<const KsViewPort*>(&view) != nullptr;
     return QStringLiteral("%1: %2 %3, %4 %5")
         .arg(QString::fromStdWString(view.getViewName()),
-             viewport ? QStringLiteral("表示") : QStringLiteral("参照"), QString::number(on),
-             viewport ? QStringLiteral("非表示") : QStringLiteral("非参照"), QString::number(off));
+             viewport ? QCoreApplication::translate("LayerViews", "表示")
+                      : QCoreApplication::translate("LayerViews", "参照"),
+             QString::number(on),
+             viewport ? QCoreApplication::translate("LayerViews", "非表示")
+                      : QCoreApplication::translate("LayerViews", "非参照"),
+             QString::number(off));
 }
 
 SLayerDialogOutcome createViewPort(CMemoryDataBase& db, IView& view)

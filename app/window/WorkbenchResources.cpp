@@ -3,6 +3,7 @@
 #include "framework/KsDialog.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
@@ -29,11 +30,15 @@ QPushButton* closeButton(QDialogButtonBox& box, QDialogButtonBox::StandardButton
 
 void buildPickFigure(QDialog* dialog)
 {
-    dialog->setWindowTitle(QStringLiteral("図面参照 - 要素の選択"));
+    dialog->setWindowTitle(
+        QCoreApplication::translate("WorkbenchResources", "図面参照 - 要素の選択"));
     auto* layout = new QVBoxLayout(dialog);
-    auto* prompt = new QLabel(QStringLiteral("属性を取り込む要素を選んでください。"), dialog);
+    auto* prompt = new QLabel(
+        QCoreApplication::translate("WorkbenchResources", "属性を取り込む要素を選んでください。"),
+        dialog);
     auto* filterRow = new QHBoxLayout;
-    auto* layerLabel = new QLabel(QStringLiteral("レイヤ"), dialog);
+    auto* layerLabel =
+        new QLabel(QCoreApplication::translate("WorkbenchResources", "レイヤ"), dialog);
     auto* layer = new QComboBox(dialog);
     layer->setMinimumContentsLength(16);
     layer->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -54,9 +59,11 @@ void buildPickFigure(QDialog* dialog)
     list->setWordWrap(false);
     setCtrlId(list, IDC_PICK_LIST);
     auto* buttons = new QDialogButtonBox(dialog);
-    closeButton(*buttons, QDialogButtonBox::Ok, QStringLiteral("OK"), ui::framework::IDOK)
+    closeButton(*buttons, QDialogButtonBox::Ok,
+                QCoreApplication::translate("WorkbenchResources", "OK"), ui::framework::IDOK)
         ->setDefault(true);
-    closeButton(*buttons, QDialogButtonBox::Cancel, QStringLiteral("キャンセル"),
+    closeButton(*buttons, QDialogButtonBox::Cancel,
+                QCoreApplication::translate("WorkbenchResources", "キャンセル"),
                 ui::framework::IDCANCEL);
     layout->addWidget(prompt);
     layout->addLayout(filterRow);
@@ -69,6 +76,7 @@ void buildPickFigure(QDialog* dialog)
 ui::framework::ResourceModule* createModule()
 {
     auto* module = new ui::framework::ResourceModule(QStringLiteral("kesto-settings"));
+    module->setTranslations(QStringLiteral(":/i18n/kesto-settings"));
     if (!module->addLayout(IDD_PICK_FIGURE, &buildPickFigure)
         || !ui::framework::ResourceChain::instance().add(module)) {
         delete module;

@@ -34,15 +34,15 @@ WorkbenchWindow::WorkbenchWindow(Session& session, QWidget* parent)
     : QMainWindow(parent)
     , m_session(session)
 {
-    setWindowTitle(QStringLiteral("設定ワークベンチ - kesto-settings"));
+    setWindowTitle(tr("設定ワークベンチ - kesto-settings"));
     auto* central = new QWidget(this);
     auto* layout = new QVBoxLayout(central);
     m_drawingLabel = new QLabel(central);
     m_tree = new QTreeWidget(central);
-    auto* openButton = new QPushButton(QStringLiteral("開く"), central);
+    auto* openButton = new QPushButton(tr("開く"), central);
     layout->addWidget(m_drawingLabel);
     layout->addWidget(m_tree, 1);
-    m_viewsLabel = new QLabel(QStringLiteral("図面のビュー (選んだビューを編集します):"), central);
+    m_viewsLabel = new QLabel(tr("図面のビュー (選んだビューを編集します):"), central);
     m_views = new QListWidget(central);
     m_views->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_views->setMaximumHeight(110);
@@ -61,19 +61,19 @@ WorkbenchWindow::WorkbenchWindow(Session& session, QWidget* parent)
     });
     connect(openButton, &QPushButton::clicked, this, &WorkbenchWindow::openSelectedTopic);
     connect(m_tree, &QTreeWidget::itemActivated, this, &WorkbenchWindow::openSelectedTopic);
-    statusBar()->showMessage(QStringLiteral("設定フォルダ: %1").arg(m_session.store().folder()));
+    statusBar()->showMessage(tr("設定フォルダ: %1").arg(m_session.store().folder()));
     showDrawingState();
     resize(520, 560);
 }
 
 void WorkbenchWindow::buildMenus()
 {
-    QMenu* file = menuBar()->addMenu(QStringLiteral("ファイル(&F)"));
-    file->addAction(QStringLiteral("図面を開く(&O)..."), QKeySequence::Open, this,
+    QMenu* file = menuBar()->addMenu(tr("ファイル(&F)"));
+    file->addAction(tr("図面を開く(&O)..."), QKeySequence::Open, this,
                     &WorkbenchWindow::chooseDrawing);
-    file->addAction(QStringLiteral("図面を閉じる(&C)"), this, &WorkbenchWindow::closeDrawing);
+    file->addAction(tr("図面を閉じる(&C)"), this, &WorkbenchWindow::closeDrawing);
     file->addSeparator();
-    file->addAction(QStringLiteral("終了(&X)"), QKeySequence::Quit, this, &QWidget::close);
+    file->addAction(tr("終了(&X)"), QKeySequence::Quit, this, &QWidget::close);
 }
 
 void WorkbenchWindow::buildTopicTree()
@@ -128,10 +128,9 @@ void WorkbenchWindow::openDrawingTopic(const DrawingTopic& topic)
     QString message;
     m_session.openDrawingTopic(topic, &message);
     showViews();
-    statusBar()->showMessage(QStringLiteral("%1 (再描画 %2 回)")
-                                 .arg(message)
-                                 .arg(m_session.view().redrawCount() - redrawsBefore),
-                             8000);
+    statusBar()->showMessage(
+        tr("%1 (再描画 %2 回)").arg(message).arg(m_session.view().redrawCount() - redrawsBefore),
+        8000);
 }
 
 void WorkbenchWindow::openTopic(const Topic& topic)
@@ -139,13 +138,11 @@ void WorkbenchWindow::openTopic(const Topic& topic)
     bool changed = false;
     QString error;
     if (!m_session.openTopic(topic, &changed, &error)) {
-        QMessageBox::warning(this, topic.title,
-                             QStringLiteral("設定を保存できませんでした。\n%1").arg(error));
+        QMessageBox::warning(this, topic.title, tr("設定を保存できませんでした。\n%1").arg(error));
         return;
     }
-    statusBar()->showMessage(changed
-                                 ? QStringLiteral("「%1」を保存しました。").arg(topic.title)
-                                 : QStringLiteral("「%1」は変更されていません。").arg(topic.title),
+    statusBar()->showMessage(changed ? tr("「%1」を保存しました。").arg(topic.title)
+                                     : tr("「%1」は変更されていません。").arg(topic.title),
                              5000);
     applyShortCuts();
 }
@@ -156,7 +153,7 @@ void WorkbenchWindow::buildCommandMenu()
     if (!table)
         return;
     m_commands = new CommandActions(*this, *table);
-    m_commands->fillMenu(*menuBar()->addMenu(QStringLiteral("コマンド(&C)")));
+    m_commands->fillMenu(*menuBar()->addMenu(tr("コマンド(&C)")));
     connect(m_commands, &CommandActions::commandRun, this,
             [this](int, const QString& id, const QString& name) { showCommandRun(id, name); });
     applyShortCuts();
@@ -173,8 +170,7 @@ void WorkbenchWindow::applyShortCuts()
 
 void WorkbenchWindow::showCommandRun(const QString& id, const QString& name)
 {
-    statusBar()->showMessage(QStringLiteral("コマンド「%1」(%2) を実行しました。").arg(name, id),
-                             5000);
+    statusBar()->showMessage(tr("コマンド「%1」(%2) を実行しました。").arg(name, id), 5000);
     core::Application::getInstance()->log().info(
         QStringLiteral("command run: %1 %2").arg(id, name));
     runOwnCommand(id);
@@ -202,9 +198,10 @@ void WorkbenchWindow::runOwnCommand(const QString& id)
 void WorkbenchWindow::chooseDrawing()
 {
     const QString path = QFileDialog::getOpenFileName(
-        this, QStringLiteral("図面を開く"), QString(),
-        QStringLiteral("図面 (*.dxf *.xml);;DXF 図面 (*.dxf);;"
-                       "ワークベンチ図面 (*.xml);;すべてのファイル (*)"));
+        this, tr("図面を開く"), QString(),
+        //: File type filters: keep the patterns in parentheses and the ";;" between them
+        tr("図面 (*.dxf *.xml);;DXF 図面 (*.dxf);;"
+           "ワークベンチ図面 (*.xml);;すべてのファイル (*)"));
     if (!path.isEmpty())
         openDrawing(path);
 }
@@ -213,8 +210,7 @@ void WorkbenchWindow::openDrawing(const QString& path)
 {
     QString error;
     if (!m_session.openDrawing(path, &error))
-        QMessageBox::warning(this, QStringLiteral("図面を開く"),
-                             QStringLiteral("図面を開けませんでした。\n%1").arg(error));
+        QMessageBox::warning(this, tr("図面を開く"), tr("図面を開けませんでした。\n%1").arg(error));
     showDrawingState();
 }
 
@@ -227,9 +223,9 @@ void WorkbenchWindow::closeDrawing()
 void WorkbenchWindow::showDrawingState()
 {
     const CMemoryDataBase* drawing = m_session.drawing();
-    m_drawingLabel->setText(
-        drawing ? QStringLiteral("図面: %1").arg(QString::fromStdWString(drawing->getTitle()))
-                : QStringLiteral("図面: (開いていません)"));
+    m_drawingLabel->setText(drawing
+                                ? tr("図面: %1").arg(QString::fromStdWString(drawing->getTitle()))
+                                : tr("図面: (開いていません)"));
     for (int i = 0; i < m_tree->topLevelItemCount(); ++i) {
         QTreeWidgetItem* group = m_tree->topLevelItem(i);
         for (int j = 0; j < group->childCount(); ++j) {

@@ -2,6 +2,7 @@
 
 #include "framework/DialogIds.h"
 
+#include <QCoreApplication>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -46,26 +47,31 @@ int showRealBox(QWidget* parent, const MessageBoxRequest& request)
         QMessageBox::ButtonRole role;
     };
     std::vector<Choice> choices;
+    const char* const ok = QT_TRANSLATE_NOOP("MessageBox", "OK");
+    const char* const cancel = QT_TRANSLATE_NOOP("MessageBox", "キャンセル");
+    const char* const yes = QT_TRANSLATE_NOOP("MessageBox", "はい");
+    const char* const no = QT_TRANSLATE_NOOP("MessageBox", "いいえ");
     switch (buttonsOf(request.type)) {
     case MB_OKCANCEL:
-        choices = {{IDOK, "OK", QMessageBox::AcceptRole},
-                   {IDCANCEL, "キャンセル", QMessageBox::RejectRole}};
+        choices = {{IDOK, ok, QMessageBox::AcceptRole},
+                   {IDCANCEL, cancel, QMessageBox::RejectRole}};
         break;
     case MB_YESNOCANCEL:
-        choices = {{IDYES, "はい", QMessageBox::YesRole},
-                   {IDNO, "いいえ", QMessageBox::NoRole},
-                   {IDCANCEL, "キャンセル", QMessageBox::RejectRole}};
+        choices = {{IDYES, yes, QMessageBox::YesRole},
+                   {IDNO, no, QMessageBox::NoRole},
+                   {IDCANCEL, cancel, QMessageBox::RejectRole}};
         break;
     case MB_YESNO:
-        choices = {{IDYES, "はい", QMessageBox::YesRole}, {IDNO, "いいえ", QMessageBox::NoRole}};
+        choices = {{IDYES, yes, QMessageBox::YesRole}, {IDNO, no, QMessageBox::NoRole}};
         break;
     default:
-        choices = {{IDOK, "OK", QMessageBox::AcceptRole}};
+        choices = {{IDOK, ok, QMessageBox::AcceptRole}};
         break;
     }
     std::vector<std::pair<QAbstractButton*, int>> buttons;
     for (const Choice& c : choices)
-        buttons.emplace_back(box.addButton(QString::fromUtf8(c.text), c.role), c.id);
+        buttons.emplace_back(
+            box.addButton(QCoreApplication::translate("MessageBox", c.text), c.role), c.id);
     box.exec();
     for (const auto& [button, id] : buttons) {
         if (box.clickedButton() == button)

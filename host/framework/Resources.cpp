@@ -1,17 +1,30 @@
 #include "framework/Resources.h"
 
+#include <QCoreApplication>
+#include <QTranslator>
+
 #include <algorithm>
+#include <memory>
 
 namespace kesto::ui::framework {
 
-bool ResourceModule::addStrings(const StringEntry* entries, std::size_t count)
+namespace {
+// The host's own texts (message box buttons and the like), a catalog of the host's library.
+const QString kHostName = QStringLiteral("KsHost");
+const int kHostOwner = 0;
+} // namespace
+
+bool ResourceModule::addStrings(const StringEntry* entries, std::size_t count, const char* context)
 {
     for (std::size_t i = 0; i < count; ++i) {
         if (m_strings.contains(entries[i].id))
             return false;
     }
-    for (std::size_t i = 0; i < count; ++i)
-        m_strings.emplace(entries[i].id, QString::fromUtf8(entries[i].text));
+    const QByteArray tableContext(context);
+    for (std::size_t i = 0; i < count; ++i) {
+        const QByteArray source(entries[i].text);
+        m_strings.emplace(entries[i].id, Text{tableContext, source, QString::fromUtf8(source)});
+    }
     return true;
 }
 
@@ -22,10 +35,25 @@ bool ResourceModule::addLayout(int templateId, LayoutBuilder builder)
     return m_layouts.emplace(templateId, builder).second;
 }
 
-const QString* ResourceModule::findString(int id) const
+std::optional<QString> ResourceModule::findString(int id) const
 {
     const auto it = m_strings.find(id);
-    return it == m_strings.end() ? nullptr : &it->second;
+    if (it == m_strings.end())
+        return std::nullopt;
+    const Text& text = it->second;
+    if (text.context.isEmpty())
+        return text.text;
+    return QCoreApplication::translate(text.context.constData(), text.source.constData());
+}
+
+std::vector<int> ResourceModule::stringIds() const
+{
+    std::vector<int> ids;
+    ids.reserve(m_strings.size());
+    for (const auto& entry : m_strings)
+        ids.push_back(entry.first);
+    std::sort(ids.begin(), ids.end());
+    return ids;
 }
 
 LayoutBuilder ResourceModule::findLayout(int templateId) const
@@ -45,12 +73,15 @@ bool ResourceChain::add(const ResourceModule* module)
     if (!module || contains(module))
         return false;
     m_modules.push_back(module);
+    if (m_language != QLatin1String(kSourceLanguage))
+        installTranslations(module, module->translations());
     return true;
 }
 
 void ResourceChain::remove(const ResourceModule* module)
 {
     std::erase(m_modules, module);
+    removeTranslations(module);
     if (m_current == module)
         m_current = nullptr;
 }
@@ -60,17 +91,17 @@ bool ResourceChain::contains(const ResourceModule* module) const
     return std::find(m_modules.begin(), m_modules.end(), module) != m_modules.end();
 }
 
-const QString* ResourceChain::findString(int id) const
+std::optional<QString> ResourceChain::findString(int id) const
 {
     if (m_current) {
-        if (const QString* text = m_current->findString(id))
+        if (auto text = m_current->findString(id))
             return text;
     }
     for (const ResourceModule* module : m_modules) {
-        if (const QString* text = module->findString(id))
+        if (auto text = module->findString(id))
             return text;
     }
-    return nullptr;
+    return std::nullopt;
 }
 
 LayoutBuilder ResourceChain::findLayout(int templateId) const
@@ -84,6 +115,45 @@ LayoutBuilder ResourceChain::findLayout(int templateId) const
             return builder;
     }
     return nullptr;
+}
+
+QStringList ResourceChain::setLanguage(const QString& language)
+{
+    for (const auto& entry : m_translators)
+        delete entry.second.data();
+    m_translators.clear();
+    m_language = language;
+    QStringList missing;
+    if (language == QLatin1String(kSourceLanguage))
+        return missing;
+    if (!installTranslations(&kHostOwner, QStringLiteral(":/i18n/") + kHostName))
+        missing << kHostName;
+    for (const ResourceModule* module : m_modules) {
+        if (!installTranslations(module, module->translations()))
+            missing << module->name();
+    }
+    return missing;
+}
+
+bool ResourceChain::installTranslations(const void* owner, const QString& base)
+{
+    if (base.isEmpty() || !QCoreApplication::instance())
+        return false;
+    auto translator = std::make_unique<QTranslator>(QCoreApplication::instance());
+    if (!translator->load(QStringLiteral("%1_%2.qm").arg(base, m_language))
+        || !QCoreApplication::installTranslator(translator.get()))
+        return false;
+    m_translators[owner] = translator.release();
+    return true;
+}
+
+void ResourceChain::removeTranslations(const void* owner)
+{
+    const auto it = m_translators.find(owner);
+    if (it == m_translators.end())
+        return;
+    delete it->second.data(); // takes itself off the application
+    m_translators.erase(it);
 }
 
 ResourceSwitch::ResourceSwitch(ResourceHandle to)
@@ -107,13 +177,14 @@ void ResourceSwitch::restore()
 
 QString loadString(int id)
 {
-    const QString* text = ResourceChain::instance().findString(id);
-    return text ? *text : missingResourceText(id);
+    if (auto text = ResourceChain::instance().findString(id))
+        return *std::move(text);
+    return missingResourceText(id);
 }
 
 bool hasString(int id)
 {
-    return ResourceChain::instance().findString(id) != nullptr;
+    return ResourceChain::instance().findString(id).has_value();
 }
 
 QString missingResourceText(int id)

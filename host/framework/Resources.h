@@ -1,13 +1,18 @@
 #pragma once
 
+#include <QByteArray>
 #include <QList>
+#include <QPointer>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
 class QDialog;
+class QTranslator;
 
 namespace kesto::ui::framework {
 
@@ -16,8 +21,11 @@ using LayoutBuilder = void (*)(QDialog* dialog);
 
 struct StringEntry {
     int id;
-    const char* text; // UTF-8
+    const char* text; // UTF-8; marked QT_TRANSLATE_NOOP(context, text) in translated tables
 };
+
+// The language of the source texts: no translations are installed for it.
+inline constexpr char kSourceLanguage[] = "ja";
 
 // One module's resources: its string table and dialog layouts, by number.
 class ResourceModule {
@@ -30,16 +38,29 @@ public:
 
     const QString& name() const { return m_name; }
 
-    // False when an id is already taken (the module is left as it was).
-    bool addStrings(const StringEntry* entries, std::size_t count);
+    // False when an id is already taken (the module is left as it was). With a context, each
+    // look-up translates the text (QCoreApplication::translate(context, text)).
+    bool addStrings(const StringEntry* entries, std::size_t count, const char* context = nullptr);
     bool addLayout(int templateId, LayoutBuilder builder);
 
-    const QString* findString(int id) const;
+    // The text in the installed language; nullopt when the module has no such id.
+    std::optional<QString> findString(int id) const;
+    std::vector<int> stringIds() const; // ascending
     LayoutBuilder findLayout(int templateId) const;
 
+    // The module's translations, Qt message files "<base>_<language>.qm" (":/i18n/Name").
+    void setTranslations(QString base) { m_translations = std::move(base); }
+    const QString& translations() const { return m_translations; }
+
 private:
+    struct Text {
+        QByteArray context; // empty: not translated
+        QByteArray source;
+        QString text;
+    };
     QString m_name;
-    std::unordered_map<int, QString> m_strings;
+    QString m_translations;
+    std::unordered_map<int, Text> m_strings;
     std::unordered_map<int, LayoutBuilder> m_layouts;
 };
 
@@ -58,13 +79,26 @@ public:
     ResourceHandle current() const { return m_current; }
     void setCurrent(ResourceHandle handle) { m_current = handle; }
 
-    const QString* findString(int id) const;
+    std::optional<QString> findString(int id) const;
     LayoutBuilder findLayout(int templateId) const;
+
+    // The language texts and layouts are shown in ("ja", "en"), chosen by the host: installs
+    // the translations of every module for it (and of modules added later) with the host's
+    // own. The source language needs none. Returns the modules whose translations could not
+    // be installed (no application object, no such file): their texts stay in the source
+    // language.
+    QStringList setLanguage(const QString& language);
+    const QString& language() const { return m_language; }
 
 private:
     ResourceChain() = default;
+    bool installTranslations(const void* owner, const QString& base);
+    void removeTranslations(const void* owner);
+
     std::vector<const ResourceModule*> m_modules;
     ResourceHandle m_current = nullptr;
+    QString m_language = QString::fromLatin1(kSourceLanguage);
+    std::unordered_map<const void*, QPointer<QTranslator>> m_translators; // by module, or host
 };
 
 // Makes a module current for a scope and restores the previous one on every path.

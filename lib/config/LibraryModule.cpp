@@ -2,8 +2,17 @@
 
 #include "res/ResourceTables.h"
 
+#include <QtGlobal>
+
 #include <cstdio>
 #include <cstdlib>
+
+// The compiled translations, a Qt resource of this library's objects; named here so that a
+// static link keeps them.
+static void initTranslationResources()
+{
+    Q_INIT_RESOURCE(KsSystemConfigDlgObjects_translations);
+}
 
 namespace kesto::ui::config {
 
@@ -11,7 +20,9 @@ namespace {
 
 framework::ResourceModule* createModule()
 {
+    initTranslationResources();
     auto* module = new framework::ResourceModule(QStringLiteral("KsSystemConfigDlg"));
+    module->setTranslations(QStringLiteral(":/i18n/KsSystemConfigDlg"));
     const bool ok = res::registerCommonResources(*module) && res::registerSystemResources(*module)
                     && res::registerCustomizeResources(*module)
                     && res::registerLayerResources(*module) && res::registerHatchResources(*module)

@@ -7,17 +7,21 @@ namespace kesto::ui::config::res {
 
 namespace {
 
+constexpr char kContext[] = "HatchResources";
+
 const framework::StringEntry kStrings[] = {
-    {IDS_HATCH_CAPTION, "ハッチングパターンの設定"},
+    {IDS_HATCH_CAPTION, QT_TRANSLATE_NOOP("HatchResources", "ハッチングパターンの設定")},
     {IDS_HATCH_BASE_FIGURE_UNREGISTERED,
-     "基本図形[%s]がシステムに登録されて\nいないパターンハッチングは参照できません。"},
+     QT_TRANSLATE_NOOP(
+         "HatchResources",
+         "基本図形[%s]がシステムに登録されて\nいないパターンハッチングは参照できません。")},
 };
 
 } // namespace
 
 bool registerHatchResources(framework::ResourceModule& module)
 {
-    return module.addStrings(kStrings, std::size(kStrings));
+    return module.addStrings(kStrings, std::size(kStrings), kContext);
 }
 
 } // namespace kesto::ui::config::res

@@ -125,8 +125,7 @@ QVariant CKsTableModel::cellValue(int row, int col) const
 
 bool CKsTableModel::isCellEditable(int row, int col) const
 {
-    return m_editable && isValidCell(row, col) && column(col).editable
-           && rowCellEditable(row, col);
+    return m_editable && isValidCell(row, col) && column(col).editable && rowCellEditable(row, col);
 }
 
 bool CKsTableModel::rowCellEditable(int, int) const

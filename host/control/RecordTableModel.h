@@ -46,7 +46,10 @@ public:
     }
     const std::vector<Row>& rows() const { return m_rows; }
     const Row& row(int index) const { return m_rows[static_cast<std::size_t>(index)]; }
-    std::uint64_t rowKey(int index) const override { return m_keys[static_cast<std::size_t>(index)]; }
+    std::uint64_t rowKey(int index) const override
+    {
+        return m_keys[static_cast<std::size_t>(index)];
+    }
 
     void setRows(std::vector<Row> rows)
     {

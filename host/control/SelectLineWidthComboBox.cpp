@@ -5,7 +5,7 @@
 #include "db/IDataBase.h"
 #include "setting/LineWidthSetting.h"
 
-#include <QSignalBlocker>
+#include <QCoreApplication>
 
 #include <cmath>
 
@@ -44,93 +44,72 @@ QString kindText(int kind)
 {
     switch (kind) {
     case KsLineWidth::Thin:
-        return QStringLiteral("細線");
+        return QCoreApplication::translate("SelectLineWidthComboBox", "細線");
     case KsLineWidth::Bold:
-        return QStringLiteral("太線");
+        return QCoreApplication::translate("SelectLineWidthComboBox", "太線");
     default:
-        return QStringLiteral("極太線");
+        return QCoreApplication::translate("SelectLineWidthComboBox", "極太線");
     }
 }
 
 } // namespace
 
 SelectLineWidthComboBox::SelectLineWidthComboBox(QWidget* parent)
-    : QComboBox(parent)
-{
-    setIconSize(samples::kLineSampleSize);
-    setMaxVisibleItems(20);
-    connect(this, &QComboBox::activated, this, [this] { notify(EVENT_WIDTH_CHANGED); });
-}
-
-void SelectLineWidthComboBox::setLWidthByLayer(const QString& text)
-{
-    m_byLayerText = text;
-}
-
-void SelectLineWidthComboBox::addEntry(const KsLineWidth& width, const QString& text)
-{
-    if (width.getKind() == KsLineWidth::ByLayer)
-        addItem(samples::byLayerSwatch(samples::kLineSampleSize), text);
-    else
-        addItem(samples::lineWidthSample(width.getWidth()), text);
-    m_entries.push_back(width);
-}
+    : TValueComboBox(parent, samples::kLineSampleSize)
+{}
 
 void SelectLineWidthComboBox::init(const setting::CLineWidthSetting* widths)
 {
-    if (!widths)
-        widths = configWidths();
-    const QSignalBlocker blocker(this);
-    clear();
-    m_entries.clear();
-    if (!m_byLayerText.isEmpty())
-        addEntry(KsLineWidth(0.0, KsLineWidth::ByLayer), m_byLayerText);
-    for (int kind = KsLineWidth::Thin; kind <= KsLineWidth::ExtraBold; ++kind) {
-        const KsLineWidth fixed = fixedWidth(kind, widths);
-        addEntry(fixed, QStringLiteral("%1 (%2)").arg(kindText(kind),
-                                                      QString::fromStdWString(fixed.getName())));
-    }
-    if (!widths)
-        return;
-    for (const setting::SLineWidth& entry : widths->getLineWidths())
-        addEntry(KsLineWidth(entry.getWidth()), QString::fromStdWString(entry.getWidthName()));
+    m_widths = widths ? widths : configWidths();
+    m_initialized = true;
+    setTextByLayer(m_pendingByLayerText);
 }
 
-int SelectLineWidthComboBox::selectLineWidth(int kind, double width)
+// The three fixed widths, then the table's.
+std::vector<KsLineWidth> SelectLineWidthComboBox::tableValues() const
 {
-    int index = -1;
-    for (std::size_t i = 0; i < m_entries.size() && index < 0; ++i) {
-        const KsLineWidth& entry = m_entries[i];
-        if (kind == KsLineWidth::Explicit ? entry.getKind() == KsLineWidth::Explicit
-                                                && std::fabs(entry.getWidth() - width) < kSameWidth
-                                          : entry.getKind() == kind)
-            index = static_cast<int>(i);
+    std::vector<KsLineWidth> values;
+    if (!m_initialized)
+        return values;
+    for (int kind = KsLineWidth::Thin; kind <= KsLineWidth::ExtraBold; ++kind)
+        values.push_back(fixedWidth(kind, m_widths));
+    if (m_widths) {
+        for (const setting::SLineWidth& entry : m_widths->getLineWidths())
+            values.emplace_back(entry.getWidth());
     }
-    if (index < 0 && kind == KsLineWidth::Explicit) {
-        const QSignalBlocker blocker(this);
-        addEntry(KsLineWidth(width), QString::fromStdWString(KsLineWidth::makeName(width)));
-        index = count() - 1;
-    }
-    const QSignalBlocker blocker(this);
-    setCurrentIndex(index);
-    return index;
+    return values;
 }
 
-double SelectLineWidthComboBox::getWidth(int index) const
+bool SelectLineWidthComboBox::sameValue(const KsLineWidth& a, const KsLineWidth& b) const
 {
-    return getLineWidth(index).getWidth();
+    if (a.getKind() != b.getKind())
+        return false;
+    return a.getKind() != KsLineWidth::Explicit
+           || std::fabs(a.getWidth() - b.getWidth()) < kSameWidth;
 }
 
-int SelectLineWidthComboBox::getKind(int index) const
+QString SelectLineWidthComboBox::textOf(const KsLineWidth& width) const
 {
-    return getLineWidth(index).getKind();
+    const QString name = QString::fromStdWString(KsLineWidth::makeName(width.getWidth()));
+    if (width.getKind() == KsLineWidth::Explicit)
+        return name;
+    return QStringLiteral("%1 (%2)").arg(kindText(width.getKind()), name);
+}
+
+QIcon SelectLineWidthComboBox::iconOf(const KsLineWidth& width) const
+{
+    return samples::lineWidthSample(width.getWidth());
+}
+
+QIcon SelectLineWidthComboBox::byLayerIcon() const
+{
+    return samples::byLayerSwatch(samples::kLineSampleSize);
 }
 
 KsLineWidth SelectLineWidthComboBox::getLineWidth(int index) const
 {
-    if (index < 0 || index >= static_cast<int>(m_entries.size()))
-        return KsLineWidth(0.0);
-    return m_entries[static_cast<std::size_t>(index)];
+    const KsLineWidth* width = valueAt(index);
+    return width ? *width : KsLineWidth(0.0);
 }
 
 } // namespace kesto::ui::control

@@ -1,11 +1,7 @@
 #pragma once
 
-#include "observer/Subject.h"
+#include "control/ValueComboBox.h"
 #include "types/KsLineWidth.h"
-
-#include <QComboBox>
-
-#include <vector>
 
 namespace kesto::ui::setting {
 class CLineWidthSetting;
@@ -17,7 +13,7 @@ namespace kesto::ui::control {
 // bold and extra bold, then the system's line width table. With the by-layer entry the index
 // tells the kind: 0 by layer, 1 to 3 thin to extra bold, 4 and above an explicit width.
 // Observers get EVENT_WIDTH_CHANGED when the user picks a width.
-class SelectLineWidthComboBox : public QComboBox, public kesto::Subject {
+class SelectLineWidthComboBox : public TValueComboBox<KsLineWidth> {
     Q_OBJECT
 
 public:
@@ -26,7 +22,7 @@ public:
     explicit SelectLineWidthComboBox(QWidget* parent = nullptr);
 
     // Text of the by-layer entry; takes effect with init().
-    void setLWidthByLayer(const QString& text);
+    void setLWidthByLayer(const QString& text) { m_pendingByLayerText = text; }
     // Fills the entries. The fixed widths show the open drawing's thin, bold and extra bold
     // when a drawing is open, else the table's; the table is the host configuration's unless
     // one is given.
@@ -35,24 +31,36 @@ public:
     // Selects by kind (by layer, thin, bold, extra bold) or, for an explicit width, the table
     // entry of that width, adding one when the table has none. Returns the index, -1 when the
     // kind has no entry.
-    int selectLineWidth(int kind, double width);
-    int selectLineWidth(const KsLineWidth& lineWidth)
-    {
-        return selectLineWidth(lineWidth.getKind(), lineWidth.getWidth());
-    }
+    int selectLineWidth(int kind, double width) { return selectValue(KsLineWidth(width, kind)); }
+    int selectLineWidth(const KsLineWidth& lineWidth) { return selectValue(lineWidth); }
 
     // Width in millimetres of an entry (0 for none and for the by-layer entry).
-    double getWidth(int index) const;
+    double getWidth(int index) const { return getLineWidth(index).getWidth(); }
     // KsLineWidth kind of an entry (Explicit for none).
-    int getKind(int index) const;
+    int getKind(int index) const { return getLineWidth(index).getKind(); }
     KsLineWidth getLineWidth(int index) const;
     KsLineWidth getCurLineWidth() const { return getLineWidth(currentIndex()); }
 
-private:
-    void addEntry(const KsLineWidth& width, const QString& text);
+protected:
+    std::vector<KsLineWidth> tableValues() const override;
+    KsLineWidth byLayerValue() const override { return KsLineWidth(0.0, KsLineWidth::ByLayer); }
+    bool isByLayer(const KsLineWidth& w) const override
+    {
+        return w.getKind() == KsLineWidth::ByLayer;
+    }
+    bool sameValue(const KsLineWidth& a, const KsLineWidth& b) const override;
+    bool canAdd(const KsLineWidth& w) const override
+    {
+        return w.getKind() == KsLineWidth::Explicit;
+    }
+    QString textOf(const KsLineWidth& width) const override;
+    QIcon iconOf(const KsLineWidth& width) const override;
+    QIcon byLayerIcon() const override;
 
-    QString m_byLayerText;
-    std::vector<KsLineWidth> m_entries;
+private:
+    QString m_pendingByLayerText;
+    const setting::CLineWidthSetting* m_widths = nullptr;
+    bool m_initialized = false;
 };
 
 } // namespace kesto::ui::control

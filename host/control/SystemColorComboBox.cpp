@@ -5,21 +5,9 @@
 #include "framework/ColorChooser.h"
 #include "setting/SystemColorSetting.h"
 
-#include <QSignalBlocker>
-
-#include <algorithm>
-
 namespace kesto::ui::control {
 
 namespace {
-
-QString rgbLabel(std::uint32_t rgb)
-{
-    return QStringLiteral("RGB(%1,%2,%3)")
-        .arg((rgb >> 16) & 0xFF)
-        .arg((rgb >> 8) & 0xFF)
-        .arg(rgb & 0xFF);
-}
 
 template <class T>
 T* configSetting()
@@ -31,27 +19,8 @@ T* configSetting()
 } // namespace
 
 CSystemColorComboBox::CSystemColorComboBox(QWidget* parent)
-    : QComboBox(parent)
+    : TValueComboBox(parent, samples::kSwatchSize)
 {
-    setIconSize(samples::kSwatchSize);
-    setMaxVisibleItems(20);
-    connect(this, &QComboBox::activated, this, [this](int index) { chooseEntry(index); });
-    connect(this, &QComboBox::currentIndexChanged, this, [this](int index) {
-        if (index >= 0 && getEntryKind(index) != EntryOther)
-            m_lastColorIndex = index;
-    });
-    rebuild();
-}
-
-void CSystemColorComboBox::setTextByLayer(const QString& text)
-{
-    m_byLayerText = text;
-    rebuild();
-}
-
-void CSystemColorComboBox::setTextOtherColor(const QString& text)
-{
-    m_otherText = text;
     rebuild();
 }
 
@@ -77,115 +46,70 @@ const setting::ISystemColorSetting* CSystemColorComboBox::systemColors() const
     return m_systemColors ? m_systemColors : configSetting<setting::CSystemColorSetting>();
 }
 
-std::vector<CSystemColorComboBox::SEntry> CSystemColorComboBox::collectEntries() const
+// The system colours, then the mixed ones they do not have.
+std::vector<KsColor> CSystemColorComboBox::tableValues() const
 {
-    std::vector<SEntry> entries;
-    if (!m_byLayerText.isEmpty())
-        entries.push_back({EntryByLayer, KsColor::byLayer()});
+    std::vector<KsColor> colors;
     if (const setting::ISystemColorSetting* system = systemColors()) {
         for (const KsColor& color : system->getColors())
-            entries.push_back(
-                {EntrySystem, KsColor(color.getRGB(), KsColor::System, color.getName())});
+            colors.emplace_back(color.getRGB(), KsColor::System, color.getName());
     }
-    auto offered = [&](std::uint32_t rgb) {
-        return std::any_of(entries.begin(), entries.end(), [&](const SEntry& e) {
-            return e.kind != EntryByLayer && e.color.getRGB() == rgb;
-        });
-    };
-    std::vector<std::uint32_t> custom;
-    if (const setting::CColorSetting* colors = colorSetting())
-        custom = colors->getCustomColors();
-    for (const KsColor& shown : m_shownColors)
-        custom.push_back(shown.getRGB());
-    for (std::uint32_t rgb : custom) {
-        if (!offered(rgb))
-            entries.push_back({EntryCustom, KsColor(rgb, KsColor::User)});
-    }
-    if (!m_otherText.isEmpty())
-        entries.push_back({EntryOther, getInvalidColor()});
-    return entries;
-}
-
-void CSystemColorComboBox::addEntry(const SEntry& entry, const QString& text)
-{
-    switch (entry.kind) {
-    case EntryByLayer:
-        addItem(samples::byLayerSwatch(), text);
-        break;
-    case EntryOther:
-        addItem(samples::otherColorSwatch(), text);
-        break;
-    default:
-        addItem(samples::colorSwatch(entry.color.toQColor()), text);
-        break;
-    }
-    m_entries.push_back(entry);
-}
-
-void CSystemColorComboBox::rebuild()
-{
-    const KsColor current = getCurColor();
-    const QSignalBlocker blocker(this);
-    clear();
-    m_entries.clear();
-    for (const SEntry& entry : collectEntries()) {
-        QString text = QString::fromStdWString(entry.color.getName());
-        if (entry.kind == EntryByLayer)
-            text = m_byLayerText;
-        else if (entry.kind == EntryOther)
-            text = m_otherText;
-        else if (text.isEmpty())
-            text = rgbLabel(entry.color.getRGB());
-        addEntry(entry, text);
-    }
-    m_lastColorIndex = -1;
-    if (!(current == getInvalidColor()))
-        selectColor(current);
-}
-
-int CSystemColorComboBox::selectColor(const KsColor& color)
-{
-    auto find = [&]() -> int {
-        for (std::size_t i = 0; i < m_entries.size(); ++i) {
-            const SEntry& e = m_entries[i];
-            if (color.isByLayer() ? e.kind == EntryByLayer
-                                  : e.kind != EntryByLayer && e.kind != EntryOther
-                                        && e.color.getRGB() == color.getRGB())
-                return static_cast<int>(i);
+    if (const setting::CColorSetting* custom = colorSetting()) {
+        for (std::uint32_t rgb : custom->getCustomColors()) {
+            const KsColor mixed(rgb, KsColor::User);
+            if (std::none_of(colors.begin(), colors.end(),
+                             [&](const KsColor& c) { return sameValue(c, mixed); }))
+                colors.push_back(mixed);
         }
-        return -1;
-    };
-    int index = find();
-    if (index < 0 && !color.isByLayer()) {
-        m_shownColors.push_back(color);
-        rebuild();
-        index = find();
     }
-    const QSignalBlocker blocker(this);
-    setCurrentIndex(index);
-    m_lastColorIndex = index;
-    return index;
+    return colors;
+}
+
+bool CSystemColorComboBox::sameValue(const KsColor& a, const KsColor& b) const
+{
+    return a.getRGB() == b.getRGB();
+}
+
+QString CSystemColorComboBox::textOf(const KsColor& color) const
+{
+    if (!color.getName().empty())
+        return QString::fromStdWString(color.getName());
+    const std::uint32_t rgb = color.getRGB();
+    return QStringLiteral("RGB(%1,%2,%3)")
+        .arg((rgb >> 16) & 0xFF)
+        .arg((rgb >> 8) & 0xFF)
+        .arg(rgb & 0xFF);
+}
+
+QIcon CSystemColorComboBox::iconOf(const KsColor& color) const
+{
+    return samples::colorSwatch(color.toQColor());
+}
+
+QIcon CSystemColorComboBox::byLayerIcon() const
+{
+    return samples::byLayerSwatch();
+}
+
+QIcon CSystemColorComboBox::otherIcon() const
+{
+    return samples::otherColorSwatch();
 }
 
 KsColor CSystemColorComboBox::getColor(int index) const
 {
-    if (index < 0 || index >= static_cast<int>(m_entries.size()))
-        return getInvalidColor();
-    return m_entries[static_cast<std::size_t>(index)].color;
+    const KsColor* color = valueAt(index);
+    return color ? *color : getInvalidColor();
 }
 
 CSystemColorComboBox::EEntry CSystemColorComboBox::getEntryKind(int index) const
 {
-    if (index < 0 || index >= static_cast<int>(m_entries.size()))
+    const KsColor* color = valueAt(index);
+    if (!color)
         return EntryOther;
-    return m_entries[static_cast<std::size_t>(index)].kind;
-}
-
-int CSystemColorComboBox::getOtherColorIndex() const
-{
-    return m_entries.empty() || m_entries.back().kind != EntryOther
-               ? -1
-               : static_cast<int>(m_entries.size()) - 1;
+    if (color->isByLayer())
+        return EntryByLayer;
+    return color->getColorType() == KsColor::System ? EntrySystem : EntryCustom;
 }
 
 KsColor CSystemColorComboBox::getInvalidColor()
@@ -193,41 +117,18 @@ KsColor CSystemColorComboBox::getInvalidColor()
     return KsColor(0xFFFFFF, -1);
 }
 
-void CSystemColorComboBox::chooseEntry(int index)
+// "他の色": the picker starts from the colour chosen last; the mixed colour is kept.
+std::optional<KsColor> CSystemColorComboBox::chooseOther(const KsColor* previous)
 {
-    if (index < 0 || index >= count())
-        return;
-    if (getEntryKind(index) == EntryOther) {
-        pickOtherColor();
-        return;
-    }
-    if (currentIndex() != index) {
-        const QSignalBlocker blocker(this);
-        setCurrentIndex(index);
-    }
-    m_lastColorIndex = index;
-    notify(EVENT_COLOR_CHANGED);
-}
-
-// "他の色": the picker starts from the colour chosen last; Cancel goes back to it.
-void CSystemColorComboBox::pickOtherColor()
-{
-    const int previous = m_lastColorIndex;
-    const KsColor start = getColor(previous);
     const QColor initial =
-        start == getInvalidColor() || start.isByLayer() ? QColor(Qt::white) : start.toQColor();
+        !previous || previous->isByLayer() ? QColor(Qt::white) : previous->toQColor();
     const std::optional<QColor> chosen = framework::chooseColor(this, initial);
-    if (!chosen) {
-        const QSignalBlocker blocker(this);
-        setCurrentIndex(previous);
-        return;
-    }
+    if (!chosen)
+        return std::nullopt;
     const std::uint32_t rgb = chosen->rgb() & 0xFFFFFFu;
     if (setting::CColorSetting* colors = colorSetting())
         colors->addCustomColor(rgb);
-    rebuild();
-    selectColor(KsColor(rgb, KsColor::User));
-    notify(EVENT_COLOR_CHANGED);
+    return KsColor(rgb, KsColor::User);
 }
 
 } // namespace kesto::ui::control

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "observer/Subject.h"
+#include "control/ValueComboBox.h"
 #include "types/KsLineType.h"
-
-#include <QComboBox>
 
 #include <functional>
 #include <optional>
@@ -30,7 +28,7 @@ public:
 // The host's line type combo box: an optional by-layer entry first, the system line types,
 // and an optional last entry offering the open drawing's other line types ("LTYPE").
 // Observers get EVENT_LINETYPE_CHANGED when the user picks a line type.
-class CSystemLineTypeComboBox : public QComboBox, public kesto::Subject {
+class CSystemLineTypeComboBox : public TValueComboBox<KsLineType> {
     Q_OBJECT
 
 public:
@@ -38,35 +36,35 @@ public:
 
     explicit CSystemLineTypeComboBox(QWidget* parent = nullptr);
 
-    // Text of the by-layer entry; an empty text removes it.
-    void setTextByLayer(const QString& text);
     // Text of the last entry; an empty text removes it.
-    void setTextOtherLineType(const QString& text);
+    void setTextOtherLineType(const QString& text) { setTextOther(text); }
     // The system line types to offer (default: the host configuration's).
     void setSystemLineTypes(const setting::ISystemLineTypeSetting* lineTypes);
 
     // Selects the by-layer entry for a by-layer line type, else the entry of that name (or
     // id); a line type not offered yet is added before the last entry.
-    int selectLineType(const KsLineType& lineType);
+    int selectLineType(const KsLineType& lineType) { return selectValue(lineType); }
     // The line type of the current entry, null for the "other" entry or no entry.
     const KsLineType* getCurLType() const { return getLineType(currentIndex()); }
-    const KsLineType* getLineType(int index) const;
-    bool isOtherEntry(int index) const;
+    const KsLineType* getLineType(int index) const { return valueAt(index); }
 
-    // What a user's choice of an entry does (the "other" entry opens the chooser).
-    void chooseEntry(int index);
+protected:
+    std::vector<KsLineType> tableValues() const override;
+    KsLineType byLayerValue() const override { return KsLineType::byLayer(); }
+    bool isByLayer(const KsLineType& type) const override { return type.isByLayer(); }
+    bool sameValue(const KsLineType& a, const KsLineType& b) const override;
+    bool canAdd(const KsLineType& type) const override;
+    QString textOf(const KsLineType& type) const override;
+    QIcon iconOf(const KsLineType& type) const override;
+    QIcon byLayerIcon() const override;
+    QIcon otherIcon() const override;
+    std::optional<KsLineType> chooseOther(const KsLineType* previous) override;
 
 private:
-    void rebuild();
     std::vector<KsLineType> candidatesForOther() const;
     const setting::ISystemLineTypeSetting* systemLineTypes() const;
 
-    QString m_byLayerText;
-    QString m_otherText;
     const setting::ISystemLineTypeSetting* m_systemLineTypes = nullptr;
-    std::vector<KsLineType> m_extra; // line types chosen or selected from outside the table
-    std::vector<KsLineType> m_entries;
-    int m_lastIndex = -1;
 };
 
 } // namespace kesto::ui::control

@@ -1,5 +1,6 @@
 #include "system/PaperRules.h"
 
+#include <QCoreApplication>
 #include <QSet>
 
 namespace kesto::ui::config::paperrules {
@@ -26,7 +27,7 @@ namespace size {
 
 setting::SPaperSize newPaperSize()
 {
-    return {L"新サイズ", 1, 1};
+    return {QCoreApplication::translate("PaperRules", "新サイズ").toStdWString(), 1, 1};
 }
 
 SProblem check(const std::vector<setting::SPaperSize>& sizes)

@@ -835,6 +835,13 @@ registered in the system cannot be picked.</translation>
     </message>
 </context>
 <context>
+    <name>PaperRules</name>
+    <message>
+        <source>新サイズ</source>
+        <translation>New size</translation>
+    </message>
+</context>
+<context>
     <name>SystemResources</name>
     <message>
         <source>既に同じ線幅がシステム設定に存在しています。</source>

@@ -1,4 +1,5 @@
 # Installs the build into a private prefix, builds the consumer against it and runs it.
+cmake_policy(SET CMP0057 NEW)
 set(prefix "${BUILD_DIR}/package-test/install")
 set(consumer "${BUILD_DIR}/package-test/consumer")
 file(REMOVE_RECURSE "${BUILD_DIR}/package-test")
@@ -12,6 +13,14 @@ function(run what)
 endfunction()
 
 run("install" ${CMAKE_COMMAND} --install "${BUILD_DIR}" --prefix "${prefix}")
+# Only the public surface is installed: no rules, protocol or private headers.
+file(GLOB_RECURSE installed RELATIVE "${prefix}/include/KsSystemConfigDlg"
+    "${prefix}/include/KsSystemConfigDlg/*.h")
+foreach(internal config/ModalProtocol.h config/TableEditor.h layer/LayerFlagRules.h)
+    if(internal IN_LIST installed)
+        message(FATAL_ERROR "internal header installed: ${internal}")
+    endif()
+endforeach()
 run("configure" ${CMAKE_COMMAND} -S "${SOURCE_DIR}/consumer" -B "${consumer}" -G Ninja
     "-DCMAKE_PREFIX_PATH=${prefix}")
 run("build" ${CMAKE_COMMAND} --build "${consumer}")

@@ -6,7 +6,9 @@
 #include "framework/MessageBox.h"
 #include "framework/ModalHook.h"
 
+#include <QApplication>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QTest>
 
 using namespace kesto;
@@ -160,6 +162,33 @@ private slots:
         QVERIFY(ui::config::doPaperSizeDlg(setting, {}));
         QCOMPARE(names(setting), QStringList({"新サイズ", "A0", "A3"}));
         QCOMPARE(setting.getInitPaperName(), std::wstring(L"A3"));
+    }
+
+    // Tab leaves the grid, F2 edits a cell, Enter confirms the dialog.
+    void theGridDialogIsUsedWithTheKeyboardAlone()
+    {
+        test::HostFixture host;
+        CSystemPaperSizeSetting setting = threeSizes();
+        ScopedModalDrivers drivers([](CKsDialog& d) {
+            d.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&d));
+            CKsListCtrl& list = listOf(d);
+            list.setFocus();
+            list.setCurrentIndex(list.model()->index(2, 1));
+            QTest::keyClick(&list, Qt::Key_F2);
+            auto* editor = list.findChild<QLineEdit*>();
+            QVERIFY(editor);
+            QTest::keyClicks(editor, QStringLiteral("300"));
+            QTest::keyClick(editor, Qt::Key_Return);
+            QTRY_COMPARE(list.getCellText(2, 1), QStringLiteral("300")); // committed queued
+            QTest::keyClick(&list, Qt::Key_Tab);
+            QVERIFY(QApplication::focusWidget() != &list);
+            QVERIFY(d.isAncestorOf(QApplication::focusWidget()));
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+            QVERIFY(d.isEnded());
+        });
+        QVERIFY(ui::config::doPaperSizeDlg(setting, {}));
+        QCOMPARE(setting.getPaperSizes()[2].height, 300);
     }
 
     void resetRestoresTheDefaultsUntilCancel()

@@ -43,6 +43,18 @@ bool CKsListModel::storeColor(int r, int c, QRgb color)
     return true;
 }
 
+int CKsListModel::findRow(int c, const QString& text, int from) const
+{
+    if (c < 0 || c >= columnCount())
+        return -1;
+    const auto at = static_cast<std::size_t>(c);
+    for (std::size_t r = static_cast<std::size_t>(std::max(from, 0)); r < m_rows.size(); ++r) {
+        if (at < m_rows[r].cells.size() && m_rows[r].cells[at].text == text)
+            return static_cast<int>(r);
+    }
+    return -1;
+}
+
 void CKsListModel::columnsAdded()
 {
     for (SListRow& r : m_rows)

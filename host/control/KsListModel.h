@@ -16,6 +16,7 @@ public:
     QString cellText(int row, int column) const override;
     QRgb cellColor(int row, int column) const override;
     std::uint64_t rowKey(int row) const override { return this->row(row).data; }
+    int findRow(int column, const QString& text, int from = 0) const override;
 
     int addRow(SListRow row);
     void insertRow(int at, SListRow row);

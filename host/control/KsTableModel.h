@@ -54,7 +54,7 @@ public:
     // A key per row that stays with the row while rows are added, removed and moved.
     virtual std::uint64_t rowKey(int row) const = 0;
     int findRowByKey(std::uint64_t key) const;
-    int findRow(int column, const QString& text, int from = 0) const;
+    virtual int findRow(int column, const QString& text, int from = 0) const;
 
     void setEditable(bool editable) { m_editable = editable; }
     bool isEditable() const { return m_editable; }

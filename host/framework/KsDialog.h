@@ -60,7 +60,12 @@ protected:
     decltype(auto) guarded(F&& handler,
                            std::source_location where = std::source_location::current()) const
     {
-        return guardHandler(handlerClass(), methodOf(where), std::forward<F>(handler));
+        try {
+            return std::forward<F>(handler)();
+        } catch (...) {
+            logHandlerException(handlerClass(), methodOf(where));
+            throw;
+        }
     }
 
     virtual bool OnInitDialog();

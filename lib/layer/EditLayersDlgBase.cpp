@@ -285,17 +285,19 @@ bool CEditLayersDlgBase::updateByRowChange(int row)
 void CEditLayersDlgBase::changeComboboxInSelectedRow(const QString& text)
 {
     const std::vector<int> selected = d->list->getSelectedRows();
-    if (selected.empty())
+    const int flag = layerflags::flagOfText(d->flagTexts, text);
+    if (selected.empty() || flag < 0)
         return;
     d->editor.batch([&] {
         for (int row : selected) {
             if (!d->model->isCellEditable(row, ColumnFlag))
                 continue;
-            d->model->setCellText(row, ColumnFlag, text);
+            d->editor.setFlag(d->model->row(row).record, static_cast<char>(flag));
             control::SListRowTextEvent event{row, text};
             d->list->notify(control::LIST_EVENT_ROW_COMBO_CHANGED, &event);
         }
     });
+    d->model->rowsChanged(selected.front(), selected.back());
     d->list->viewport()->repaint();
     updateLayers();
 }

@@ -1,4 +1,5 @@
 #include "session/Session.h"
+#include "session/SettingsFolder.h"
 #include "window/CommandActions.h"
 #include "window/Screenshots.h"
 #include "window/WorkbenchWindow.h"
@@ -78,12 +79,16 @@ int main(int argc, char* argv[])
     parser.addOptions({settingsOption, drawingOption, shotOption});
     parser.process(app);
 
-    const QString settingsFolder =
+    // Without a display (pictures only) nobody could answer a window.
+    const bool rendering = parser.isSet(shotOption);
+    QString problem;
+    const QString settingsFolder = workbench::settleSettingsFolder(
         parser.isSet(settingsOption)
-            ? QDir(parser.value(settingsOption)).absolutePath()
-            : QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
-    if (!QDir().mkpath(settingsFolder)) {
-        printLine(QStringLiteral("設定フォルダ %1 を作成できません。").arg(settingsFolder));
+            ? parser.value(settingsOption)
+            : QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation),
+        rendering ? workbench::FolderChooser() : &workbench::chooseSettingsFolder, &problem);
+    if (settingsFolder.isEmpty()) {
+        printLine(problem);
         return 2;
     }
     auto config = setUpHost(settingsFolder);

@@ -58,15 +58,24 @@ bool CFigurePickDlg::OnInitDialog()
         connect(m_layer, &QComboBox::currentIndexChanged, this, [this] {
             m_model->showLayer(m_layer->currentData().value<const KsLayer*>());
             showCount();
-            refreshOk();
+            chooseFirstRow();
         });
         connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
                 [this] { refreshOk(); });
         connect(m_list, &QAbstractItemView::doubleClicked, this, [this] { OnOK(); });
         showCount();
-        refreshOk();
+        chooseFirstRow();
+        m_list->setFocus();
         return true;
     });
+}
+
+// A row is always chosen when there is one, so OK (or Enter) picks at once.
+void CFigurePickDlg::chooseFirstRow()
+{
+    if (m_model->rowCount() > 0)
+        m_list->selectRow(0);
+    refreshOk();
 }
 
 void CFigurePickDlg::fillLayers()

@@ -8,7 +8,10 @@
 #include "res/LayerResource.h"
 #include "types/KsLayer.h"
 
+#include <QHeaderView>
+#include <QLayout>
 #include <QPushButton>
+#include <QScrollBar>
 
 namespace kesto::ui::config {
 
@@ -123,8 +126,20 @@ bool CEditLayersDlgBase::OnInitDialog()
         addColumns();
         m_list->attach(this);
         setupList();
+        widenToShowColumns();
         return true;
     });
+}
+
+// The size the dialog opens with shows every column without a horizontal scroll bar.
+void CEditLayersDlgBase::widenToShowColumns()
+{
+    if (layout())
+        layout()->activate();
+    const int needed = m_list->horizontalHeader()->length()
+                       + m_list->verticalScrollBar()->sizeHint().width() + 2 * m_list->frameWidth();
+    if (needed > m_list->width())
+        resize(width() + needed - m_list->width(), height());
 }
 
 int CEditLayersDlgBase::dialogUnits(int units) const

@@ -70,6 +70,7 @@ protected:
 private:
     void setupList();
     void addColumns();
+    void widenToShowColumns();
     control::SListRow makeRow(std::size_t index) const;
     bool updateByRowChange(const QString& text, const control::SListRow& row);
     void changeComboboxInSelectedRow(const QString& text);

@@ -89,7 +89,8 @@ QStringList renderTopicScreenshots(Session& session, const QString& dir, QString
 {
     QStringList written;
     if (!QDir().mkpath(dir)) {
-        *error = QStringLiteral("cannot create %1").arg(dir);
+        *error = QCoreApplication::translate("Screenshots", "画像のフォルダ %1 を作成できません。")
+                     .arg(QDir::toNativeSeparators(dir));
         return written;
     }
     for (const Topic& topic : session.topics()) {

@@ -306,18 +306,18 @@ private slots:
         QTest::addColumn<QString>("reason");
         const QByteArray layer = "<layer name=\"A\"/>\n";
         QTest::newRow("colour") << layer + "<figure layer=\"A\" color=\"red-ish\"/>"
-                                << "line 2: a figure's colour";
+                                << "2 行目: 要素の色";
         QTest::newRow("width word") << layer + "<figure layer=\"A\" width=\"heavy\"/>"
-                                    << "not heavy";
+                                    << "(heavy ではありません)";
         QTest::newRow("width too wide") << layer + "<figure layer=\"A\" width=\"70\"/>"
-                                        << "0 to 65.535 mm";
+                                        << "0 から 65.535 mm";
         QTest::newRow("negative width") << layer + "<figure layer=\"A\" width=\"-0.1\"/>"
-                                        << "not -0.1";
+                                        << "(-0.1 ではありません)";
         QTest::newRow("zero dash")
-            << QByteArray("<linetype name=\"X\" dashes=\"3 0\"/>") << "not 0: 0";
+            << QByteArray("<linetype name=\"X\" dashes=\"3 0\"/>") << "0 以外の長さ (mm) です: 0";
         QTest::newRow("line type twice")
-            << QByteArray("<linetype name=\"X\"/><linetype name=\"X\"/>") << "listed twice";
-        QTest::newRow("nameless line type") << QByteArray("<linetype/>") << "needs a name";
+            << QByteArray("<linetype name=\"X\"/><linetype name=\"X\"/>") << "二度書かれています";
+        QTest::newRow("nameless line type") << QByteArray("<linetype/>") << "名前が必要です";
     }
     void badFigureLooksRefuseTheDrawing()
     {

@@ -197,16 +197,16 @@ private slots:
         QTest::newRow("zero scale")
             << "c.xml"
             << QByteArray("<drawing><scale numerator=\"1\" denominator=\"0\"/></drawing>")
-            << "greater than zero";
+            << "0 より大きい";
         QTest::newRow("nameless coordinate system")
-            << "f.xml" << QByteArray("<drawing><coordsys/></drawing>") << "needs a name";
+            << "f.xml" << QByteArray("<drawing><coordsys/></drawing>") << "名前が必要です";
         QTest::newRow("nameless layer")
-            << "d.xml" << QByteArray("<drawing><layer/></drawing>") << "needs a name";
+            << "d.xml" << QByteArray("<drawing><layer/></drawing>") << "名前が必要です";
         QTest::newRow("figure before its layer")
             << "f.xml" << QByteArray("<drawing><figure layer=\"A\"/><layer name=\"A\"/></drawing>")
-            << "line 1: a figure needs";
+            << "1 行目: 要素には";
         QTest::newRow("unknown format")
-            << "e.dwg" << QByteArray("AC1027") << "unknown drawing format";
+            << "e.dwg" << QByteArray("AC1027") << "図面の形式が分かりません";
     }
     void badDrawingFilesAreRefusedWithAReason()
     {
@@ -224,7 +224,7 @@ private slots:
         QVERIFY2(error.contains(reason), qPrintable(error));
         QVERIFY(error.contains(path));
         QVERIFY(!openDrawing(host.path(QStringLiteral("none.xml")), &error));
-        QVERIFY(error.contains(QStringLiteral("no such file")));
+        QVERIFY(error.contains(QStringLiteral("ファイルがありません")));
     }
 
     void layerDialogsOpenOnTheDrawingAndKeepTheirFlagsWithItsViews()

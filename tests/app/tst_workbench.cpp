@@ -267,6 +267,26 @@ private slots:
         QCOMPARE(sections[1]->getLayerFlgs().size(), std::size_t(2));
     }
 
+    // The layout viewport of a real paper-space drawing comes in as a view of the drawing, and
+    // the layer dialog edits it there.
+    void aPaperSpaceViewportOfARealDrawingIsEditedLikeAnyView()
+    {
+        test::HostFixture host;
+        Workbench bench(host.folder());
+        QString message;
+        const QString drawing = test::dataFile(QStringLiteral("dxf/libredwg_gh109_r2013_cjk.dxf"));
+        QVERIFY2(bench.session.openDrawing(drawing, &message), qPrintable(message));
+        const auto viewports = viewPortsOf(*bench.session.drawing());
+        QCOMPARE(viewports.size(), std::size_t(1)); // ID 2; ID 1 is the sheet
+        QCOMPARE(describeView(*viewports[0]), QStringLiteral("ビューポート A34: 表示 0, 非表示 0"));
+        ScopedModalDrivers drivers(hideFirstRows);
+        QVERIFY(bench.session.openDrawingTopic(
+            *bench.session.findDrawingTopic(QStringLiteral("layer-viewport-edit")), &message));
+        QCOMPARE(message, QStringLiteral("1 個のビューを変更しました。"));
+        QCOMPARE(describeView(*viewports[0]), QStringLiteral("ビューポート A34: 表示 0, 非表示 2"));
+        QVERIFY(viewports[0]->getLayerFlgs().count(L"0"));
+    }
+
     void theSharedFlagsOfSeveralViewsKeepWhereTheyDiffer()
     {
         KsViewPort a(L"A");

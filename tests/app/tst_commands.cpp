@@ -239,6 +239,21 @@ private slots:
         QVERIFY(bench.session.drawing()->getChangeRecord().empty());
     }
 
+    // What the README tells of the command table is what ships.
+    void theReadmeCountsTheShippedCommandTable()
+    {
+        CommandTableLoaded table;
+        QVERIFY(table.loaded);
+        const utility::CCommandTable& commands =
+            *core::Application::getInstance()->getCommandTable();
+        const QString claim =
+            QStringLiteral("%1 commands of a civil-engineering drafting application in %2 groups")
+                .arg(commands.size())
+                .arg(commands.groups().size());
+        const QByteArray readme = test::readFile(QStringLiteral(KS_SOURCE_DIR "/README.md"));
+        QVERIFY2(QString::fromUtf8(readme).simplified().contains(claim), qPrintable(claim));
+    }
+
     void cancelKeepsTheKeysAsTheyWere()
     {
         test::HostFixture host;

@@ -64,7 +64,7 @@ QString settleSettingsFolder(const QString& folder, const FolderChooser& choose,
         if (!choose)
             return {};
         const int answer = ui::framework::MessageBox(
-            nullptr, *problem + u'\n' + tr("別のフォルダを選びますか?"), tr("設定フォルダ"),
+            nullptr, *problem + u'\n' + tr("別のフォルダを選びますか？"), tr("設定フォルダ"),
             ui::framework::MB_YESNO | ui::framework::MB_ICONWARNING);
         const QString chosen = answer == ui::framework::IDYES ? choose(wanted) : QString();
         if (chosen.isEmpty())

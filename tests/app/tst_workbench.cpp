@@ -381,7 +381,7 @@ private slots:
         QCOMPARE(asked, QStringList({blocked, again}));
         QCOMPARE(boxes.count(), std::size_t(2));
         QCOMPARE(test::lastBox(boxes), QStringLiteral("設定フォルダ|") + problemWith(again)
-                                           + QStringLiteral("\n別のフォルダを選びますか?"));
+                                           + QStringLiteral("\n別のフォルダを選びますか？"));
         boxes.answerNext(ui::framework::IDNO);
         QVERIFY(settleSettingsFolder(blocked, choose, &problem).isEmpty());
         QCOMPARE(problem, problemWith(blocked));

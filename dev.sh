@@ -3,10 +3,18 @@
 #   ./dev.sh run [workbench options]   opens the workbench (or renders PNGs without a display)
 #   ./dev.sh test                      runs the tests through ctest
 #   ./dev.sh build                     builds only
+# Paths given to the workbench are taken from where it is called, not from the checkout.
+# DEV_SKIP_BUILD=1 runs or tests the build as it is.
 set -euo pipefail
-cd "$(dirname "$0")"
+CALLER_DIR=$PWD
+ROOT=$(cd "$(dirname "$0")" && pwd)
+cd "$ROOT"
 
 BUILD_DIR=${BUILD_DIR:-build}
+case "$BUILD_DIR" in
+    /*) ;;
+    *) BUILD_DIR="$ROOT/$BUILD_DIR" ;;
+esac
 PACKAGES=(
     g++ cmake ninja-build pkg-config ccache
     qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins
@@ -40,7 +48,8 @@ install_packages() {
 }
 
 build() {
-    export CCACHE_BASEDIR="$PWD" # shares cached objects between checkouts
+    [ "${DEV_SKIP_BUILD:-}" = 1 ] && return 0
+    export CCACHE_BASEDIR="$ROOT" # shares cached objects between checkouts
     install_packages
     local launcher=()
     command -v ccache >/dev/null && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
@@ -54,12 +63,19 @@ has_display() {
 
 run_workbench() {
     local exe="$BUILD_DIR/app/kesto-settings"
+    cd "$CALLER_DIR"
     if has_display; then
         exec "$exe" "$@"
     fi
-    local shots="$BUILD_DIR/screenshots"
-    QT_QPA_PLATFORM=offscreen "$exe" --screenshot "$shots" --drawing app/samples/civil-sample.xml "$@"
-    echo "No display found: the dialogs were rendered to PNG in $(cd "$shots" && pwd)"
+    local shots="$BUILD_DIR/screenshots" arg
+    for arg in "$@"; do
+        case "$arg" in --screenshot | --screenshot=*) shots="" ;; esac
+    done
+    # A --drawing of the caller's comes last and wins over the sample.
+    local defaults=(--drawing "$ROOT/app/samples/civil-sample.xml")
+    [ -n "$shots" ] && defaults+=(--screenshot "$shots")
+    QT_QPA_PLATFORM=offscreen "$exe" "${defaults[@]}" "$@"
+    [ -z "$shots" ] || echo "No display found: the dialogs were rendered to PNG in $shots"
 }
 
 run_tests() {

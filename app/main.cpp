@@ -1,5 +1,6 @@
 #include "language/Language.h"
 #include "session/Session.h"
+#include "session/SettingsFolder.h"
 #include "window/CommandActions.h"
 #include "window/Screenshots.h"
 #include "window/WorkbenchWindow.h"
@@ -97,12 +98,16 @@ int main(int argc, char* argv[])
     if (!useLanguage(parser.value(languageOption)))
         return 2;
 
-    const QString settingsFolder =
+    // Without a display (pictures only) nobody could answer a window.
+    const bool rendering = parser.isSet(shotOption);
+    QString problem;
+    const QString settingsFolder = workbench::settleSettingsFolder(
         parser.isSet(settingsOption)
-            ? QDir(parser.value(settingsOption)).absolutePath()
-            : QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
-    if (!QDir().mkpath(settingsFolder)) {
-        printLine(QStringLiteral("設定フォルダ %1 を作成できません。").arg(settingsFolder));
+            ? parser.value(settingsOption)
+            : QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation),
+        rendering ? workbench::FolderChooser() : &workbench::chooseSettingsFolder, &problem);
+    if (settingsFolder.isEmpty()) {
+        printLine(problem);
         return 2;
     }
     auto config = setUpHost(settingsFolder);

@@ -1,8 +1,9 @@
 // "共通設定" on a large drawing (10,000 layers, 1,000 scales), the pick list of its drawing
-// reference over a million figures, and what a figure costs in memory.
+// reference over a million figures (both opened and painted), and what a figure costs in memory.
 #include "BenchMain.h"
 
-#include "picking/FigureListModel.h"
+#include "picking/FigurePickDlg.h"
+#include "window/WorkbenchResources.h"
 
 #include "config/DrawEntries.h"
 #include "core/Application.h"
@@ -17,6 +18,8 @@
 #include "types/KsFigure.h"
 #include "types/KsLayer.h"
 #include "types/KsScale.h"
+
+#include <QComboBox>
 
 #include <malloc.h>
 
@@ -82,7 +85,8 @@ LargeDrawing& drawing()
     return large;
 }
 
-// Opening (lists filled, the record's names selected, combo boxes prepared), shown and closed.
+// Opening (lists filled, the record's names selected, combo boxes prepared), painted and
+// confirmed.
 void BM_OpenCommonDialog(benchmark::State& state)
 {
     drawing();
@@ -91,8 +95,10 @@ void BM_OpenCommonDialog(benchmark::State& state)
     record.layerName = L"レイヤ9999";
     record.scaleName = L"1/1009";
     CDrawCommonSetting setting;
-    ui::framework::ModalHook::setStandingDriver(
-        [](ui::framework::CKsDialog& dialog) { dialog.EndDialog(ui::framework::IDOK); });
+    ui::framework::ModalHook::setStandingDriver([](ui::framework::CKsDialog& dialog) {
+        bench::paintNow(dialog);
+        dialog.EndDialog(ui::framework::IDOK);
+    });
     for (auto _ : state)
         benchmark::DoNotOptimize(ui::config::doDrawCommonDlg(setting, &record));
     ui::framework::ModalHook::setStandingDriver({});
@@ -100,18 +106,35 @@ void BM_OpenCommonDialog(benchmark::State& state)
 }
 BENCHMARK(BM_OpenCommonDialog)->Unit(benchmark::kMillisecond);
 
-// The pick list over a million figures, then one layer's figures.
+// The pick list over a million figures, opened and painted.
 void BM_PickListOfAMillionFigures(benchmark::State& state)
 {
     LargeDrawing& d = drawing();
-    for (auto _ : state) {
-        workbench::CFigureListModel model(d.db);
-        model.showLayer(d.layers[17]);
-        benchmark::DoNotOptimize(model.rowCount());
-    }
+    ui::framework::ModalHook::setStandingDriver(&bench::paintAndCancel);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(workbench::CFigurePickDlg::pick(d.db));
+    ui::framework::ModalHook::setStandingDriver({});
     state.SetItemsProcessed(state.iterations() * kFigures);
 }
 BENCHMARK(BM_PickListOfAMillionFigures)->Unit(benchmark::kMillisecond);
+
+// Choosing one layer in the pick list: its figures listed and painted.
+void BM_PickListShowsOneLayer(benchmark::State& state)
+{
+    LargeDrawing& d = drawing();
+    ui::framework::ModalHook::setStandingDriver([&](ui::framework::CKsDialog& dialog) {
+        auto* layers = dialog.dlgItem<QComboBox>(workbench::IDC_PICK_LAYER);
+        bench::paintNow(dialog);
+        for (auto _ : state) {
+            layers->setCurrentIndex(layers->currentIndex() == 17 ? 18 : 17);
+            bench::paintNow(dialog);
+        }
+        dialog.EndDialog(ui::framework::IDCANCEL);
+    });
+    workbench::CFigurePickDlg::pick(d.db);
+    ui::framework::ModalHook::setStandingDriver({});
+}
+BENCHMARK(BM_PickListShowsOneLayer)->Unit(benchmark::kMillisecond);
 
 // Heap bytes per figure held by a drawing, figure and its slot in the drawing included.
 void BM_MemoryPerFigure(benchmark::State& state)

@@ -1,4 +1,4 @@
-// Opening "線幅の設定" with 1,000 system widths and a drawing of 1,000 line widths.
+// "線幅の設定" with 1,000 system widths and a drawing of 1,000 line widths, opened and painted.
 #include "BenchMain.h"
 
 #include "config/SystemEntries.h"
@@ -58,17 +58,21 @@ void run(benchmark::State& state, const ModalHook::Driver& driver)
 
 void BM_OpenLineWidthDialog(benchmark::State& state)
 {
-    run(state, [](CKsDialog& dialog) { dialog.EndDialog(2); });
+    run(state, &bench::paintAndCancel);
 }
 BENCHMARK(BM_OpenLineWidthDialog)->Arg(1000)->Unit(benchmark::kMillisecond);
 
-// Opening, showing the drawing's tab, going back, and confirming (which writes the drawing).
+// Opening, showing the drawing's tab, going back (each painted), and confirming (which writes
+// the drawing).
 void BM_LineWidthDialogBothTabsAndOk(benchmark::State& state)
 {
     run(state, [](CKsDialog& dialog) {
+        bench::paintNow(dialog);
         auto* tab = dialog.dlgItem<QTabBar>(7071);
         tab->setCurrentIndex(1);
+        bench::paintNow(dialog);
         tab->setCurrentIndex(0);
+        bench::paintNow(dialog);
         dialog.dlgItem<QAbstractButton>(1)->click();
     });
 }

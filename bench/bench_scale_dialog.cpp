@@ -1,4 +1,5 @@
-// Opening "スケールの設定" with large system and drawing lists.
+// "スケールの設定" with large system and drawing lists: opened and painted, both tabs painted,
+// and what closing costs the user.
 #include "BenchMain.h"
 
 #include "config/SystemEntries.h"
@@ -9,6 +10,8 @@
 #include "types/KsScale.h"
 
 #include <QTabBar>
+
+#include <chrono>
 
 using namespace kesto;
 using ui::framework::CKsDialog;
@@ -46,7 +49,7 @@ void BM_OpenScaleDialog(benchmark::State& state)
     Host host(count);
     ui::setting::CSystemScaleSetting setting = makeScales(count);
     const ui::setting::CSystemScaleSetting defaults = makeScales(10);
-    ModalHook::setStandingDriver([](CKsDialog& dialog) { dialog.EndDialog(2); });
+    ModalHook::setStandingDriver(&bench::paintAndCancel);
     for (auto _ : state)
         benchmark::DoNotOptimize(ui::config::doSystemScaleDlg(setting, defaults));
     ModalHook::setStandingDriver({});
@@ -54,7 +57,7 @@ void BM_OpenScaleDialog(benchmark::State& state)
 }
 BENCHMARK(BM_OpenScaleDialog)->Arg(100)->Arg(10000)->Unit(benchmark::kMillisecond);
 
-// Opening, then showing the drawing's tab and going back.
+// Opening, then showing the drawing's tab and going back, each painted.
 void BM_OpenScaleDialogBothTabs(benchmark::State& state)
 {
     const int count = static_cast<int>(state.range(0));
@@ -62,16 +65,41 @@ void BM_OpenScaleDialogBothTabs(benchmark::State& state)
     ui::setting::CSystemScaleSetting setting = makeScales(count);
     const ui::setting::CSystemScaleSetting defaults = makeScales(10);
     ModalHook::setStandingDriver([](CKsDialog& dialog) {
+        bench::paintNow(dialog);
         auto* tab = dialog.dlgItem<QTabBar>(7071);
         tab->setCurrentIndex(1);
+        bench::paintNow(dialog);
         tab->setCurrentIndex(0);
-        dialog.EndDialog(2);
+        bench::paintAndCancel(dialog);
     });
     for (auto _ : state)
         benchmark::DoNotOptimize(ui::config::doSystemScaleDlg(setting, defaults));
     ModalHook::setStandingDriver({});
 }
 BENCHMARK(BM_OpenScaleDialogBothTabs)->Arg(10000)->Unit(benchmark::kMillisecond);
+
+// From Cancel until the user's event loop is free again, with a placement that changed (the
+// dialog was moved), so that it has to be written.
+void BM_CloseScaleDialog(benchmark::State& state)
+{
+    Host host(10);
+    ui::setting::CSystemScaleSetting setting = makeScales(10);
+    const ui::setting::CSystemScaleSetting defaults = makeScales(10);
+    int step = 0;
+    ModalHook::setStandingDriver([&](CKsDialog& dialog) {
+        bench::paintNow(dialog);
+        dialog.move(++step % 200, 40);
+        const auto start = std::chrono::steady_clock::now();
+        dialog.EndDialog(2);
+        QCoreApplication::processEvents();
+        state.SetIterationTime(
+            std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+    });
+    for (auto _ : state)
+        benchmark::DoNotOptimize(ui::config::doSystemScaleDlg(setting, defaults));
+    ModalHook::setStandingDriver({});
+}
+BENCHMARK(BM_CloseScaleDialog)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace
 

@@ -1,4 +1,4 @@
-// Opening "ショートカットキーの設定" and "マウスの設定" with a large command table.
+// "ショートカットキーの設定" and "マウスの設定" with a large command table, opened and painted.
 #include "BenchMain.h"
 
 #include "command/CommandTable.h"
@@ -68,7 +68,7 @@ void BM_OpenShortCutDialog(benchmark::State& state)
     Host host;
     const utility::CCommandTable table = makeTable(static_cast<int>(state.range(0)));
     ui::setting::CShortCutSetting setting = makeBindings(table, static_cast<int>(state.range(1)));
-    ModalHook::setStandingDriver([](CKsDialog& dialog) { dialog.EndDialog(2); });
+    ModalHook::setStandingDriver(&bench::paintAndCancel);
     for (auto _ : state)
         benchmark::DoNotOptimize(ui::config::doShortCutDlg(setting, &table));
     ModalHook::setStandingDriver({});
@@ -82,12 +82,13 @@ void BM_AssignInLargeTable(benchmark::State& state)
     const utility::CCommandTable table = makeTable(3000);
     ui::setting::CShortCutSetting setting = makeBindings(table, 1000);
     ModalHook::setStandingDriver([](CKsDialog& dialog) {
+        bench::paintNow(dialog);
         auto* tree = dialog.dlgItem<QTreeWidget>(8001);
         tree->setCurrentItem(tree->topLevelItem(29)->child(0));
         auto* edit = dialog.dlgItem<QLineEdit>(8002);
         QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
         dialog.dlgItem<QAbstractButton>(7501)->click();
-        dialog.EndDialog(2);
+        bench::paintAndCancel(dialog);
     });
     for (auto _ : state)
         benchmark::DoNotOptimize(ui::config::doShortCutDlg(setting, &table));
@@ -100,7 +101,7 @@ void BM_OpenMouseDialog(benchmark::State& state)
     Host host;
     const utility::CCommandTable table = makeTable(3000);
     ui::setting::CMouseSetting setting = ui::setting::CMouseSetting::makeDefault();
-    ModalHook::setStandingDriver([](CKsDialog& dialog) { dialog.EndDialog(2); });
+    ModalHook::setStandingDriver(&bench::paintAndCancel);
     const std::wstring file =
         QStringLiteral(KS_SOURCE_DIR "/app/resources/mousecommands.xml").toStdWString();
     for (auto _ : state)

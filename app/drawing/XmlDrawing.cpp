@@ -8,6 +8,7 @@
 #include "utility/NumberFormat.h"
 #include "utility/Xml.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <cmath>
@@ -25,6 +26,11 @@ struct SXmlDrawing {
     int nextLineTypeId = KsLineType::kFirstDrawingId;
 };
 
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("XmlDrawing", text);
+}
+
 bool fail(QString* error, const QString& text)
 {
     if (error)
@@ -34,7 +40,7 @@ bool fail(QString* error, const QString& text)
 
 QString at(const QDomElement& e, const QString& text)
 {
-    return QStringLiteral("line %1: %2").arg(e.lineNumber()).arg(text);
+    return tr("%1 行目: %2").arg(e.lineNumber()).arg(text);
 }
 
 bool isByLayer(const QString& value)
@@ -58,16 +64,15 @@ bool readLineType(const QDomElement& e, SXmlDrawing& d, QString* error)
 {
     const QString name = e.attribute(QStringLiteral("name"));
     if (name.isEmpty() || isByLayer(name))
-        return fail(error, at(e, QStringLiteral("a line type needs a name other than bylayer")));
+        return fail(error, at(e, tr("線種には bylayer 以外の名前が必要です")));
     if (d.lineTypes.count(name))
-        return fail(error, at(e, QStringLiteral("the line type %1 is listed twice").arg(name)));
+        return fail(error, at(e, tr("線種 %1 が二度書かれています").arg(name)));
     std::vector<double> dashes;
     for (const QString& part :
          e.attribute(QStringLiteral("dashes")).split(u' ', Qt::SkipEmptyParts)) {
         const std::optional<double> dash = utility::parseDecimal(part);
         if (!dash || !std::isfinite(*dash) || *dash == 0)
-            return fail(error,
-                        at(e, QStringLiteral("dashes are lengths in mm, not 0: %1").arg(part)));
+            return fail(error, at(e, tr("dashes は 0 以外の長さ (mm) です: %1").arg(part)));
         dashes.push_back(*dash);
     }
     lineTypeNamed(d, name, dashes);
@@ -81,8 +86,7 @@ bool readScale(const QDomElement& e, SXmlDrawing& d, QString* error)
     if (!utility::xml::readDoubleAttribute(e, QStringLiteral("numerator"), numerator)
         || !utility::xml::readDoubleAttribute(e, QStringLiteral("denominator"), denominator)
         || numerator <= 0 || denominator <= 0)
-        return fail(error, at(e, QStringLiteral("a scale needs numerator and denominator "
-                                                "greater than zero")));
+        return fail(error, at(e, tr("縮尺には 0 より大きい numerator と denominator が必要です")));
     auto* scale = d.db.add<KsScale>(numerator, denominator);
     if (e.hasAttribute(QStringLiteral("name")))
         scale->setName(e.attribute(QStringLiteral("name")).toStdWString());
@@ -93,7 +97,7 @@ bool readLayer(const QDomElement& e, SXmlDrawing& d, QString* error)
 {
     const QString name = e.attribute(QStringLiteral("name"));
     if (name.isEmpty())
-        return fail(error, at(e, QStringLiteral("a layer needs a name")));
+        return fail(error, at(e, tr("レイヤには名前が必要です")));
     auto* layer = d.db.add<KsLayer>(name.toStdWString());
     d.layers.emplace(name, layer);
     const QColor color(e.attribute(QStringLiteral("color"), QStringLiteral("#000000")));
@@ -112,7 +116,7 @@ bool readCoordinateSystem(const QDomElement& e, SXmlDrawing& d, QString* error)
 {
     const QString name = e.attribute(QStringLiteral("name"));
     if (name.isEmpty())
-        return fail(error, at(e, QStringLiteral("a coordinate system needs a name")));
+        return fail(error, at(e, tr("座標系には名前が必要です")));
     d.db.add<KsCoordinateSystem>(name.toStdWString());
     return true;
 }
@@ -121,10 +125,10 @@ bool readLineWidth(const QDomElement& e, SXmlDrawing& d, QString* error)
 {
     double width = 0;
     if (!utility::xml::readDoubleAttribute(e, QStringLiteral("width"), width) || width <= 0)
-        return fail(error, at(e, QStringLiteral("a line width needs a width greater than zero")));
+        return fail(error, at(e, tr("線幅には 0 より大きい width が必要です")));
     const QColor color(e.attribute(QStringLiteral("color"), QStringLiteral("#FFFFFF")));
     if (!color.isValid())
-        return fail(error, at(e, QStringLiteral("the colour must be #RRGGBB")));
+        return fail(error, at(e, tr("色は #RRGGBB で書きます")));
     auto* lineWidth = d.db.add<KsLineWidth>(width);
     lineWidth->setColor(color.rgb());
     lineWidth->setColorType(KsColor::System);
@@ -144,9 +148,7 @@ bool readWidthKinds(const QDomElement& e, SXmlDrawing& d, QString* error)
             continue;
         double width = 0;
         if (!utility::xml::readDoubleAttribute(e, attribute, width) || width <= 0)
-            return fail(
-                error,
-                at(e, QStringLiteral("%1 must be a width greater than zero").arg(attribute)));
+            return fail(error, at(e, tr("%1 は 0 より大きい線幅です").arg(attribute)));
         d.db.setLineWidthOfKind(kind, KsLineWidth(width, kind));
     }
     return true;
@@ -170,8 +172,8 @@ bool readFigureWidth(const QDomElement& e, SXmlDrawing& d, KsFigure& figure, QSt
     }
     const std::optional<double> width = utility::parseDecimal(text);
     if (!width || !(*width >= 0 && *width <= KsFigure::kMaxWidth))
-        return fail(error, at(e, QStringLiteral("a figure's width is bylayer, thin, bold, "
-                                                "extrabold or 0 to 65.535 mm, not %1")
+        return fail(error, at(e, tr("要素の線幅は bylayer, thin, bold, extrabold "
+                                    "か 0 から 65.535 mm です (%1 ではありません)")
                                      .arg(text)));
     figure.setLineWidth(*width);
     return true;
@@ -182,12 +184,12 @@ bool readFigure(const QDomElement& e, SXmlDrawing& d, QString* error)
 {
     const auto layer = d.layers.find(e.attribute(QStringLiteral("layer")));
     if (layer == d.layers.end())
-        return fail(error, at(e, QStringLiteral("a figure needs the name of a layer listed "
-                                                "before it")));
+        return fail(error, at(e, tr("要素には、それより前に書かれた"
+                                    "レイヤの名前が必要です")));
     const QString colorText = e.attribute(QStringLiteral("color"));
     const QColor color(colorText);
     if (!isByLayer(colorText) && !color.isValid())
-        return fail(error, at(e, QStringLiteral("a figure's colour is bylayer or #RRGGBB")));
+        return fail(error, at(e, tr("要素の色は bylayer か #RRGGBB です")));
     auto* figure = d.db.add<KsFigure>(
         e.attribute(QStringLiteral("kind"), QStringLiteral("LINE")).toStdWString(), layer->second);
     if (!isByLayer(colorText))
@@ -229,7 +231,7 @@ std::unique_ptr<CMemoryDataBase> readXmlDrawing(const QString& path, QString* er
     }
     const QDomElement root = doc.documentElement();
     if (root.tagName() != u"drawing") {
-        fail(error, QStringLiteral("%1: the root element must be <drawing>").arg(path));
+        fail(error, tr("%1: ルート要素は <drawing> です").arg(path));
         return nullptr;
     }
     auto db = std::make_unique<CMemoryDataBase>(

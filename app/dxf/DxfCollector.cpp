@@ -1,7 +1,9 @@
 #include "dxf/DxfCollector.h"
 
+#include "core/Application.h"
 #include "db/MemoryDataBase.h"
 #include "element/KsViewPort.h"
+#include "setting/SystemColorSetting.h"
 #include "types/KsFigure.h"
 #include "types/KsLayer.h"
 
@@ -51,23 +53,45 @@ bool isFigure(const std::string& kind)
     return notFigures.count(kind) == 0;
 }
 
-// ACI 7 is the drawing's foreground: black on our white sheets.
-KsColor colorOf(int aci, int trueColor)
+// The system palette's colours that ACI 1 to 7 stand for, by their names in the palette. ACI 7
+// is the drawing's foreground: black on our white sheets.
+SystemPalette systemPalette()
+{
+    static const wchar_t* const names[] = {L"赤", L"黄", L"緑", L"水色", L"青", L"紫", L"黒"};
+    const auto defaults = ui::setting::CSystemColorSetting::makeDefault();
+    const core::CSystemConfig* config = core::Application::getInstance()->getSystemConfig();
+    const auto* current = config ? config->getSetting<ui::setting::CSystemColorSetting>() : nullptr;
+    SystemPalette palette;
+    for (std::size_t i = 0; i < palette.size(); ++i) {
+        const KsColor* named = current ? current->findByName(names[i]) : nullptr;
+        palette[i] = named ? *named : *defaults.findByName(names[i]);
+    }
+    return palette;
+}
+
+// A true colour as it is; ACI 1 to 7 as the system palette's colours, others in the standard
+// RGB. The ACI read is kept with the colour, so that it can be written back.
+KsColor colorOf(int aci, int trueColor, const SystemPalette& palette)
 {
     aci = std::abs(aci);
     if (aci < 1 || aci > 255)
         aci = 7;
     const auto rgb = static_cast<std::uint32_t>(trueColor) & 0xFFFFFFu;
-    if (trueColor >= 0 && !(aci == 7 && rgb == 0xFFFFFFu))
-        return KsColor(rgb, KsColor::User,
-                       QColor::fromRgb(rgb).name(QColor::HexRgb).toUpper().toStdWString());
-    if (aci == 7)
-        return KsColor(0, KsColor::System, L"7");
-    auto channel = [&](int i) {
-        return static_cast<std::uint32_t>(std::lround(dxfColors[aci][i] * 255.0));
-    };
-    return KsColor((channel(0) << 16) | (channel(1) << 8) | channel(2), KsColor::System,
-                   std::to_wstring(aci));
+    KsColor color;
+    if (trueColor >= 0 && !(aci == 7 && rgb == 0xFFFFFFu)) {
+        color = KsColor(rgb, KsColor::User,
+                        QColor::fromRgb(rgb).name(QColor::HexRgb).toUpper().toStdWString());
+    } else if (aci <= static_cast<int>(palette.size())) {
+        color = palette[static_cast<std::size_t>(aci - 1)];
+    } else {
+        auto channel = [&](int i) {
+            return static_cast<std::uint32_t>(std::lround(dxfColors[aci][i] * 255.0));
+        };
+        color = KsColor((channel(0) << 16) | (channel(1) << 8) | channel(2), KsColor::System,
+                        std::to_wstring(aci));
+    }
+    color.setNumber(aci);
+    return color;
 }
 
 KsLineType::EKind lineTypeKind(const std::string& key, bool hasDashes)
@@ -270,7 +294,7 @@ void CDxfCollector::styleFigure(KsFigure& figure, const SFigure& source,
 {
     const bool colorByLayer = source.trueColor < 0 && (source.color == 256 || source.color == 0);
     if (!colorByLayer)
-        figure.setColor(colorOf(source.color, source.trueColor));
+        figure.setColor(colorOf(source.color, source.trueColor, m_palette));
     if (source.lineType >= 0)
         figure.setLineType(lineTypes[static_cast<std::size_t>(source.lineType)]);
     if (source.weight >= 0)
@@ -282,7 +306,7 @@ void CDxfCollector::styleFigure(KsFigure& figure, const SFigure& source,
 KsLayer* CDxfCollector::addLayer(CMemoryDataBase& db, const SLayer& source) const
 {
     auto* layer = db.add<KsLayer>(m_decoder.decode(source.name).toStdWString());
-    layer->setColor(colorOf(source.color, source.trueColor));
+    layer->setColor(colorOf(source.color, source.trueColor, m_palette));
     const std::string lineTypeKey = keyOf(source.lineType);
     const auto found = std::find_if(m_lineTypes.begin(), m_lineTypes.end(),
                                     [&](const auto& t) { return keyOf(t.name) == lineTypeKey; });
@@ -367,6 +391,7 @@ void CDxfCollector::addLineWidths(CMemoryDataBase& db) const
 void CDxfCollector::build(CMemoryDataBase& db)
 {
     endRecord();
+    m_palette = systemPalette();
     const std::vector<const KsLineType*> figureLineTypes = lineTypesOfFigures(addLineTypes(db));
     std::unordered_map<std::string, KsLayer*> layerOfName;
     std::unordered_map<std::wstring, KsLayer*> layerOfText; // \U+ written one way, read another

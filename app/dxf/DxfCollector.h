@@ -2,8 +2,11 @@
 
 #include "dxf/DxfText.h"
 
+#include "types/KsColor.h"
+
 #include <dl_creationadapter.h>
 
+#include <array>
 #include <cstdint>
 #include <set>
 #include <string>
@@ -16,6 +19,9 @@ class KsLayer;
 class KsLineType;
 
 namespace kesto::workbench::dxf {
+
+// The system palette's colours of ACI 1 to 7.
+using SystemPalette = std::array<KsColor, 7>;
 
 // Collects what the workbench keeps of a DXF drawing while the parser reads it, then builds
 // the database. The parser gives the header, the line types and the layers; the group codes it
@@ -118,6 +124,7 @@ private:
     std::set<int> m_lineWeights;
     std::string m_currentLayer;
     int m_defaultLineWeight = 25;
+    SystemPalette m_palette;
 };
 
 } // namespace kesto::workbench::dxf

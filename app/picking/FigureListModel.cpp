@@ -40,13 +40,16 @@ QColor shownColor(const KsFigure& figure)
 CFigureListModel::CFigureListModel(const IDataBase& drawing, QObject* parent)
     : QAbstractTableModel(parent)
 {
+    // Consecutive figures mostly share a layer, so the set is skipped while it repeats.
     std::unordered_set<const KsLayer*> used;
+    const KsLayer* previous = nullptr;
     drawing.forEachElement([&](KsObject& element) {
         const auto* figure = dynamic_cast<const KsFigure*>(&element);
-        if (figure && figure->getLayer()) { // views lie on no layer and have no look
-            m_figures.push_back(figure);
-            used.insert(figure->getLayer());
-        }
+        if (!figure || !figure->getLayer()) // views lie on no layer and have no look
+            return;
+        m_figures.push_back(figure);
+        if (figure->getLayer() != previous)
+            used.insert(previous = figure->getLayer());
     });
     for (const KsLayer* layer : drawing.elementsOf<KsLayer>(L"LAYER")) {
         if (used.count(layer))

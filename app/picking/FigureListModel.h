@@ -2,6 +2,7 @@
 
 #include <QAbstractTableModel>
 
+#include <deque>
 #include <vector>
 
 class IDataBase;
@@ -54,8 +55,8 @@ public:
 private:
     QVariant displayText(const KsFigure& figure, int row, int column) const;
 
-    std::vector<const KsFigure*> m_figures; // in drawing order
-    std::vector<int> m_numbers;             // figure numbers of the rows shown (from 0)
+    std::deque<const KsFigure*> m_figures; // in drawing order; grows without copying
+    std::vector<int> m_numbers;            // figure numbers of the rows shown (from 0)
     bool m_filtered = false;
     std::vector<const KsLayer*> m_layers;
     const ui::setting::ISystemColorSetting* m_systemColors = nullptr;

@@ -48,25 +48,35 @@ bool CFigurePickDlg::OnInitDialog()
         m_count = dlgItem<QLabel>(IDC_PICK_COUNT);
         if (!m_layer || !m_list || !m_count)
             return false;
+        // Row heights before the model: a million rows are sized once, not twice.
+        m_list->verticalHeader()->setDefaultSectionSize(m_list->fontMetrics().height() + 6);
         m_model = new CFigureListModel(m_drawing, this);
         m_list->setModel(m_model);
         const int widths[] = {64, 120, 150, 120, 120};
         for (int column = 0; column < static_cast<int>(std::size(widths)); ++column)
             m_list->setColumnWidth(column, widths[column]);
-        m_list->verticalHeader()->setDefaultSectionSize(m_list->fontMetrics().height() + 6);
         fillLayers();
         connect(m_layer, &QComboBox::currentIndexChanged, this, [this] {
             m_model->showLayer(m_layer->currentData().value<const KsLayer*>());
             showCount();
-            refreshOk();
+            chooseFirstRow();
         });
         connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
                 [this] { refreshOk(); });
         connect(m_list, &QAbstractItemView::doubleClicked, this, [this] { OnOK(); });
         showCount();
-        refreshOk();
+        chooseFirstRow();
+        m_list->setFocus();
         return true;
     });
+}
+
+// A row is always chosen when there is one, so OK (or Enter) picks at once.
+void CFigurePickDlg::chooseFirstRow()
+{
+    if (m_model->rowCount() > 0)
+        m_list->selectRow(0);
+    refreshOk();
 }
 
 void CFigurePickDlg::fillLayers()

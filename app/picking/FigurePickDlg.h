@@ -13,7 +13,8 @@ namespace kesto::workbench {
 class CFigureListModel;
 
 // "図面参照 - 要素の選択": the drawing's figures with their layer, colour, line type and width;
-// the user picks one (OK or a double click). Only one layer's figures when a layer is chosen.
+// the user picks one (OK, Enter or a double click); the first row is chosen when it opens. Only
+// one layer's figures when a layer is chosen.
 class CFigurePickDlg : public ui::framework::CKsDialog {
     Q_OBJECT
 
@@ -34,6 +35,7 @@ protected:
 private:
     void fillLayers();
     void showCount();
+    void chooseFirstRow();
     void refreshOk();
     const KsFigure* selectedFigure() const;
 

@@ -45,6 +45,13 @@
     </message>
 </context>
 <context>
+    <name>Screenshots</name>
+    <message>
+        <source>画像のフォルダ %1 を作成できません。</source>
+        <translation>Cannot create the picture folder %1.</translation>
+    </message>
+</context>
+<context>
     <name>Session</name>
     <message>
         <source>図面を開いてください。</source>
@@ -135,6 +142,113 @@
     <message>
         <source>キャンセル</source>
         <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>kesto::workbench</name>
+    <message>
+        <source>%1: ファイルがありません</source>
+        <translation>%1: no such file</translation>
+    </message>
+    <message>
+        <source>%1: 図面の形式が分かりません (.xml か .dxf の図面を開けます)</source>
+        <translation>%1: unknown drawing format (.xml and .dxf drawings can be opened)</translation>
+    </message>
+    <message>
+        <source>%1 行目: %2</source>
+        <translation>line %1: %2</translation>
+    </message>
+    <message>
+        <source>線種には bylayer 以外の名前が必要です</source>
+        <translation>a line type needs a name other than bylayer</translation>
+    </message>
+    <message>
+        <source>線種 %1 が二度書かれています</source>
+        <translation>line type %1 is written twice</translation>
+    </message>
+    <message>
+        <source>dashes は 0 以外の長さ (mm) です: %1</source>
+        <translation>dashes are lengths (mm) other than 0: %1</translation>
+    </message>
+    <message>
+        <source>縮尺には 0 より大きい numerator と denominator が必要です</source>
+        <translation>a scale needs a numerator and a denominator above 0</translation>
+    </message>
+    <message>
+        <source>レイヤには名前が必要です</source>
+        <translation>a layer needs a name</translation>
+    </message>
+    <message>
+        <source>座標系には名前が必要です</source>
+        <translation>a coordinate system needs a name</translation>
+    </message>
+    <message>
+        <source>線幅には 0 より大きい width が必要です</source>
+        <translation>a line width needs a width above 0</translation>
+    </message>
+    <message>
+        <source>色は #RRGGBB で書きます</source>
+        <translation>colours are written as #RRGGBB</translation>
+    </message>
+    <message>
+        <source>%1 は 0 より大きい線幅です</source>
+        <translation>%1 must be a line width above 0</translation>
+    </message>
+    <message>
+        <source>要素の線幅は bylayer, thin, bold, extrabold か 0 から 65.535 mm です (%1 ではありません)</source>
+        <translation>an element&apos;s line width is bylayer, thin, bold, extrabold or 0 to 65.535 mm (not %1)</translation>
+    </message>
+    <message>
+        <source>要素には、それより前に書かれたレイヤの名前が必要です</source>
+        <translation>an element needs the name of a layer written before it</translation>
+    </message>
+    <message>
+        <source>要素の色は bylayer か #RRGGBB です</source>
+        <translation>an element&apos;s colour is bylayer or #RRGGBB</translation>
+    </message>
+    <message>
+        <source>%1: ルート要素は &lt;drawing&gt; です</source>
+        <translation>%1: the root element must be &lt;drawing&gt;</translation>
+    </message>
+    <message>
+        <source>書き込みが許可されていません</source>
+        <translation>writing is not permitted</translation>
+    </message>
+    <message>
+        <source>読み取り専用の場所です</source>
+        <translation>the location is read-only</translation>
+    </message>
+    <message>
+        <source>同じ名前のファイルがあります</source>
+        <translation>a file of that name exists</translation>
+    </message>
+    <message>
+        <source>パスの途中にフォルダでないものがあります</source>
+        <translation>a part of the path is not a folder</translation>
+    </message>
+    <message>
+        <source>空き容量がありません</source>
+        <translation>the disk is full</translation>
+    </message>
+    <message>
+        <source>作成できませんでした</source>
+        <translation>it could not be created</translation>
+    </message>
+    <message>
+        <source>設定フォルダ %1 を作成できません (%2)。</source>
+        <translation>Cannot create the settings folder %1 (%2).</translation>
+    </message>
+    <message>
+        <source>別のフォルダを選びますか？</source>
+        <translation>Choose another folder?</translation>
+    </message>
+    <message>
+        <source>設定フォルダ</source>
+        <translation>Settings folder</translation>
+    </message>
+    <message>
+        <source>設定フォルダを選ぶ</source>
+        <translation>Choose the settings folder</translation>
     </message>
 </context>
 <context>

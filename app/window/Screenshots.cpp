@@ -7,16 +7,24 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QImage>
 #include <QPainter>
 #include <QPixmap>
+
+#include <algorithm>
 
 namespace kesto::workbench {
 
 using ui::framework::CKsDialog;
 using ui::framework::ModalHook;
 
-// The window with a plain title bar of its own, since offscreen windows have no frame.
 bool renderWidget(QWidget& widget, const QString& file)
+{
+    return framedPicture(widget).save(file, "PNG");
+}
+
+// The window with a plain title bar of its own, since offscreen windows have no frame.
+QPixmap framedPicture(QWidget& widget)
 {
     QCoreApplication::processEvents();
     const QPixmap client = widget.grab();
@@ -39,29 +47,35 @@ bool renderWidget(QWidget& widget, const QString& file)
                      QStringLiteral("×"));
     painter.drawPixmap(1, titleHeight, client);
     painter.end();
-    return framed.save(file, "PNG");
+    return framed;
 }
 
 namespace {
 
 // Runs open once per shot, rendering the dialog it shows and cancelling it. A shot may end its
 // dialog itself and lead to further dialogs; the second and later are numbered (NAME-2.png).
+// A picture the topic has already (a shot that starts as another one looks) is not written.
 template <class Open>
 void renderShots(const QString& dir, const QString& id, const std::vector<Shot>& shots,
                  QStringList& written, Open open)
 {
+    std::vector<QImage> pictures;
     for (const Shot& shot : shots) {
         const QString name = shot.suffix.isEmpty() ? id : id + u'-' + shot.suffix;
         int shown = 0;
         ModalHook::setStandingDriver([&](CKsDialog& dialog) {
-            ++shown;
-            const QString file =
-                QDir(dir).filePath((shown == 1 ? name : name + u'-' + QString::number(shown))
-                                   + QStringLiteral(".png"));
             if (shot.arrange)
                 shot.arrange(dialog);
-            if (renderWidget(dialog, file))
-                written << file;
+            const QImage picture = framedPicture(dialog).toImage();
+            if (std::find(pictures.begin(), pictures.end(), picture) == pictures.end()) {
+                pictures.push_back(picture);
+                ++shown;
+                const QString file =
+                    QDir(dir).filePath((shown == 1 ? name : name + u'-' + QString::number(shown))
+                                       + QStringLiteral(".png"));
+                if (picture.save(file, "PNG"))
+                    written << file;
+            }
             if (!dialog.isEnded())
                 dialog.EndDialog(ui::framework::IDCANCEL);
         });
@@ -75,7 +89,8 @@ QStringList renderTopicScreenshots(Session& session, const QString& dir, QString
 {
     QStringList written;
     if (!QDir().mkpath(dir)) {
-        *error = QStringLiteral("cannot create %1").arg(dir);
+        *error = QCoreApplication::translate("Screenshots", "画像のフォルダ %1 を作成できません。")
+                     .arg(QDir::toNativeSeparators(dir));
         return written;
     }
     for (const Topic& topic : session.topics()) {

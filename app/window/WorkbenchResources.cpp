@@ -54,6 +54,7 @@ void buildPickFigure(QDialog* dialog)
     list->setSelectionBehavior(QAbstractItemView::SelectRows);
     list->setSelectionMode(QAbstractItemView::SingleSelection);
     list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    list->setTabKeyNavigation(false); // Tab goes on to the buttons; arrows move in the list
     list->verticalHeader()->hide();
     list->horizontalHeader()->setStretchLastSection(true);
     list->setWordWrap(false);

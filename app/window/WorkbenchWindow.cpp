@@ -2,6 +2,7 @@
 
 #include "session/Session.h"
 #include "window/CommandActions.h"
+#include "window/ElidingStatusBar.h"
 
 #include "core/Application.h"
 #include "element/KsCrossSectionView.h"
@@ -35,6 +36,7 @@ WorkbenchWindow::WorkbenchWindow(Session& session, QWidget* parent)
     , m_session(session)
 {
     setWindowTitle(tr("設定ワークベンチ - kesto-settings"));
+    setStatusBar(new CElidingStatusBar(this));
     auto* central = new QWidget(this);
     auto* layout = new QVBoxLayout(central);
     m_drawingLabel = new QLabel(central);

@@ -1,5 +1,6 @@
 #include "core/Application.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
@@ -13,9 +14,11 @@ Application* Application::getInstance()
     return &instance;
 }
 
+// Placements still being written are finished while Qt is still whole.
 Application::Application()
 {
     m_helpHandler = [this](const QString& topic) { openHelpPage(topic); };
+    qAddPostRoutine([] { getInstance()->placements().sync(); });
 }
 
 std::wstring Application::getSettingFolder() const

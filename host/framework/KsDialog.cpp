@@ -1,6 +1,7 @@
 #include "framework/KsDialog.h"
 
 #include "core/Application.h"
+#include "framework/AccessibleNames.h"
 #include "framework/ModalHook.h"
 #include "framework/Resources.h"
 
@@ -76,6 +77,7 @@ bool CKsDialog::initialize()
     m_initialized = true;
     if (!OnInitDialog())
         return false;
+    nameControls(*this);
     restorePlacement();
     return true;
 }

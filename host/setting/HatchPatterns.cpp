@@ -3,6 +3,7 @@
 #include "setting/HatchXml.h"
 
 #include <limits>
+#include <utility>
 
 namespace kesto::ui::setting {
 
@@ -113,7 +114,7 @@ bool SHatchFrame::loadXMLNode(const QDomElement& e, const ISystemLineTypeSetting
         || !readBool(e, QStringLiteral("keepLineType"), read.keepLineType)
         || !readBool(e, QStringLiteral("keepWidth"), read.keepLineWidth))
         return false;
-    *this = read;
+    *this = std::move(read);
     return true;
 }
 
@@ -155,10 +156,9 @@ bool CHatchPatternBase::loadFrames(const QDomElement& element,
     std::vector<SHatchFrame> frames;
     for (QDomElement e = list.firstChildElement(QStringLiteral("Frame")); !e.isNull();
          e = e.nextSiblingElement(QStringLiteral("Frame"))) {
-        SHatchFrame frame = defaultFrame();
+        SHatchFrame& frame = frames.emplace_back(defaultFrame());
         if (!frame.loadXMLNode(e, lineTypes))
             return false;
-        frames.push_back(frame);
     }
     innerFrames = std::move(frames);
     return true;
@@ -230,7 +230,7 @@ bool SFigurePattern::loadXMLNode(const QDomNode& node, const ISystemLineTypeSett
     }
     if (!read.loadFrames(e, lineTypes))
         return false;
-    *this = read;
+    *this = std::move(read);
     return true;
 }
 
@@ -278,7 +278,7 @@ bool SSlantPatternLine::loadXMLNode(const QDomElement& e, const ISystemLineTypeS
                        std::numeric_limits<double>::min(), kMaxMagnitude)
         || !readDouble(e, QStringLiteral("angle"), read.angle, -kMaxMagnitude, kMaxMagnitude))
         return false;
-    *this = read;
+    *this = std::move(read);
     return true;
 }
 
@@ -337,15 +337,13 @@ bool SSlantPattern::loadXMLNode(const QDomNode& node, const ISystemLineTypeSetti
         for (QDomElement le = list.firstChildElement(QStringLiteral("Line"));
              !le.isNull() && read.lines.size() < kMaxLines;
              le = le.nextSiblingElement(QStringLiteral("Line"))) {
-            SSlantPatternLine line = defaultLine();
-            if (!line.loadXMLNode(le, lineTypes))
+            if (!read.lines.emplace_back(defaultLine()).loadXMLNode(le, lineTypes))
                 return false;
-            read.lines.push_back(line);
         }
     }
     if (!read.loadFrames(e, lineTypes))
         return false;
-    *this = read;
+    *this = std::move(read);
     return true;
 }
 
@@ -406,7 +404,7 @@ bool SCoatingPattern::loadXMLNode(const QDomNode& node, const ISystemLineTypeSet
         || !readBool(e, QStringLiteral("drawAtBack"), read.drawAtBack)
         || !read.loadFrames(e, lineTypes))
         return false;
-    *this = read;
+    *this = std::move(read);
     return true;
 }
 
@@ -433,7 +431,7 @@ bool SHoldPattern::loadXMLNode(const QDomNode& node, const ISystemLineTypeSettin
     SHoldPattern read = *this;
     if (!read.loadFrames(e, lineTypes))
         return false;
-    *this = read;
+    *this = std::move(read);
     return true;
 }
 

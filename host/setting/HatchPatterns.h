@@ -77,6 +77,8 @@ protected:
     CHatchPatternBase() = default;
     CHatchPatternBase(const CHatchPatternBase&) = default;
     CHatchPatternBase& operator=(const CHatchPatternBase&) = default;
+    CHatchPatternBase(CHatchPatternBase&&) noexcept = default;
+    CHatchPatternBase& operator=(CHatchPatternBase&&) noexcept = default;
 
     void resetFrames();
     bool saveFrames(QDomElement& element, QDomDocument& doc) const;

@@ -2,6 +2,7 @@
 
 #include <QDomDocument>
 #include <QString>
+#include <QXmlStreamReader>
 
 #include <memory>
 #include <string>
@@ -33,6 +34,17 @@ protected:
     CSettingBase() = default;
     CSettingBase(const CSettingBase&) = default;
     CSettingBase& operator=(const CSettingBase&) = default;
+
+    // A setting whose files grow large reads them as a stream, one item at a time, instead of
+    // as one document: reader stands on the root element (its name checked). False when the
+    // contents are malformed; the setting is then unchanged. What is read is taken only after
+    // readToEnd has found the rest of the document well formed.
+    virtual bool readsXMLAsStream() const { return false; }
+    virtual bool loadXMLStream(QXmlStreamReader& reader);
+    static bool readToEnd(QXmlStreamReader& reader);
+
+private:
+    bool loadXMLStreamFile(const std::wstring& path, QString* error);
 };
 
 // clone and assign for a concrete setting class.

@@ -29,6 +29,12 @@ public:
     void setColorType(int type) { m_colorType = type; }
     void setName(std::wstring name) { m_name = std::move(name); }
 
+    // The colour's number in the drawing it was read from (a DXF colour number, 1 to 255), so
+    // that the drawing is written back with the number it had; 0 for none. Not part of what
+    // makes two colours the same.
+    int getNumber() const { return m_number; }
+    void setNumber(int number) { m_number = number >= 0 && number <= 255 ? number : 0; }
+
     bool operator==(const KsColor& other) const;
 
     // The one text form of an RGB value, "#RRGGBB" (upper case), and its reading: exactly
@@ -39,5 +45,6 @@ public:
 private:
     std::uint32_t m_rgb = 0;
     int m_colorType = System;
+    int m_number = 0;
     std::wstring m_name;
 };

@@ -29,20 +29,23 @@ static_assert(sizeof(KsFigure) <= 40, "a figure must stay small");
 KsFigure::KsFigure(std::wstring_view kind, const KsLayer* layer, bool inBlock)
     : m_kind(internKind(kind))
     , m_layer(layer)
-    , m_inBlock(inBlock)
+    , m_inBlock(inBlock ? 1 : 0)
 {}
 
 KsColor KsFigure::getColor() const
 {
     if (isColorByLayer())
         return KsColor::byLayer();
-    return KsColor(m_color & 0xFFFFFFu, colorType());
+    KsColor color(m_color & 0xFFFFFFu, colorType());
+    color.setNumber(m_colorNumber);
+    return color;
 }
 
 void KsFigure::setColor(const KsColor& color)
 {
     const auto type = static_cast<std::uint32_t>(color.getColorType()) & 0xFFu;
     m_color = color.isByLayer() ? 0u : (type << 24) | (color.getRGB() & 0xFFFFFFu);
+    m_colorNumber = color.isByLayer() ? 0 : static_cast<std::uint8_t>(color.getNumber());
 }
 
 void KsFigure::setLineType(const KsLineType* lineType)

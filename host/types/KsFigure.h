@@ -30,9 +30,10 @@ public:
     void setLayer(const KsLayer* layer) { m_layer = layer; }
 
     // Part of a block definition: shown wherever the block is placed.
-    bool isInBlock() const { return m_inBlock; }
+    bool isInBlock() const { return m_inBlock != 0; }
 
-    // The figure's own colour (KsColor::byLayer() unless set); the name is not kept.
+    // The figure's own colour (KsColor::byLayer() unless set) with its number; the name is not
+    // kept.
     KsColor getColor() const;
     void setColor(const KsColor& color);
     bool isColorByLayer() const { return colorType() == KsColor::ByLayer; }
@@ -58,6 +59,7 @@ private:
     const KsLineType* m_lineType = nullptr;
     std::uint32_t m_color = 0; // type << 24 | RGB
     std::uint16_t m_widthMicrometres = 0;
-    std::uint8_t m_widthKind = KsLineWidth::ByLayer;
-    bool m_inBlock;
+    std::uint8_t m_widthKind : 7 = KsLineWidth::ByLayer;
+    std::uint8_t m_inBlock : 1;
+    std::uint8_t m_colorNumber = 0;
 };

@@ -9,7 +9,10 @@
 #include "res/LayerResource.h"
 #include "types/KsLayer.h"
 
+#include <QHeaderView>
+#include <QLayout>
 #include <QPushButton>
+#include <QScrollBar>
 
 namespace kesto::ui::config {
 
@@ -240,8 +243,20 @@ bool CEditLayersDlgBase::OnInitDialog()
         restoreColumnWidths();
         d->list->attach(this);
         setupList();
+        widenToShowColumns();
         return true;
     });
+}
+
+// The size the dialog opens with shows every column without a horizontal scroll bar.
+void CEditLayersDlgBase::widenToShowColumns()
+{
+    if (layout())
+        layout()->activate();
+    const int needed = d->list->horizontalHeader()->length()
+                       + d->list->verticalScrollBar()->sizeHint().width() + 2 * d->list->frameWidth();
+    if (needed > d->list->width())
+        resize(width() + needed - d->list->width(), height());
 }
 
 int CEditLayersDlgBase::dialogUnits(int units) const

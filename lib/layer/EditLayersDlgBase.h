@@ -62,6 +62,7 @@ private:
 
     void setupList();
     bool updateByRowChange(int row);
+    void widenToShowColumns();
     void changeComboboxInSelectedRow(const QString& text);
     void restoreColumnWidths();
     void saveColumnWidths();

@@ -177,9 +177,11 @@ bool CLayerFlagEditor::previewAll()
                 rowChanged = previewViews(*row, row->flag);
             else if (row->flag == LayerFlagOn || row->flag == LayerFlagOff)
                 rowChanged = previewLayer(*row, row->flag);
-            redrawFor(*row, rowChanged);
             changed = changed || rowChanged;
         }
+        // The whole preview redraws when anything changed, with figures or not.
+        if (changed)
+            requestRedraw();
     });
     return changed;
 }
@@ -227,7 +229,13 @@ bool CLayerFlagEditor::undoPreview()
 
 void CLayerFlagEditor::redrawFor(const SLayerFlagRow& row, bool changed)
 {
-    if (!changed || !row.hasFigures || !m_view)
+    if (changed && row.hasFigures)
+        requestRedraw();
+}
+
+void CLayerFlagEditor::requestRedraw()
+{
+    if (!m_view)
         return;
     if (m_batchDepth > 0)
         m_redrawPending = true;

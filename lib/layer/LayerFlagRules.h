@@ -71,7 +71,7 @@ public:
     // Previews one row's flag; true when what is drawn changed. The view is redrawn only when
     // the row's layer holds figures.
     bool previewRow(std::size_t index, char flag);
-    // Previews every row's flag; at most one redraw.
+    // Previews every row's flag; one redraw when anything changed, figures or not.
     bool previewAll();
     // Gives the layers back their states (mode 1) or ends the views' previews (edit mode).
     bool undoPreview();
@@ -105,6 +105,7 @@ private:
     bool restoreLayer(SLayerFlagRow& row);
     bool viewsDifferFromStored(const SLayerFlagRow& row) const;
     void redrawFor(const SLayerFlagRow& row, bool changed);
+    void requestRedraw();
 
     int m_mode = ModeEdit;
     IView* m_view = nullptr;

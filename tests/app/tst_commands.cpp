@@ -4,6 +4,7 @@
 #include "support/TestSupport.h"
 
 #include "window/CommandActions.h"
+#include "window/ElidingStatusBar.h"
 #include "window/Screenshots.h"
 #include "window/WorkbenchWindow.h"
 
@@ -98,6 +99,28 @@ private slots:
             core::Application::getInstance()->getCommandTable()->findCommand(L"ID_FILE_SAVE");
         QCOMPARE(bench.window->commands()->actionOf(save->number)->text(),
                  QStringLiteral("上書き保存\tCtrl+S"));
+    }
+
+    // Shortened in the middle, so that both ends stay readable, and whole in the tool tip.
+    void aStatusTooLongForTheBarIsShortenedNotCut()
+    {
+        test::HostFixture host;
+        Workbench bench(host.folder());
+        auto* bar = qobject_cast<CElidingStatusBar*>(bench.window->statusBar());
+        QVERIFY(bar);
+        const QString lead = QStringLiteral("設定フォルダ: ");
+        const QString folder = QStringLiteral("/home/利用者/とても長い名前のフォルダ").repeated(4)
+                               + QStringLiteral("/kesto-settings");
+        bar->showMessage(lead + folder);
+        const QString shown = bar->shownText();
+        QVERIFY2(shown.startsWith(lead) && shown.endsWith(QStringLiteral("/kesto-settings"))
+                     && shown.contains(QChar(0x2026)),
+                 qPrintable(shown));
+        QVERIFY(bar->fontMetrics().horizontalAdvance(shown) < bar->width());
+        QCOMPARE(bar->toolTip(), lead + folder);
+        bar->showMessage(QStringLiteral("図面を開きました。"));
+        QCOMPARE(bar->shownText(), QStringLiteral("図面を開きました。"));
+        QVERIFY(bar->toolTip().isEmpty());
     }
 
     void aKeyBoundInTheDialogRunsItsCommandAfterOk()
@@ -214,6 +237,21 @@ private slots:
         }
         QVERIFY(!QFile::exists(host.path(QStringLiteral("ShortCutSetting.xml"))));
         QVERIFY(bench.session.drawing()->getChangeRecord().empty());
+    }
+
+    // What the README tells of the command table is what ships.
+    void theReadmeCountsTheShippedCommandTable()
+    {
+        CommandTableLoaded table;
+        QVERIFY(table.loaded);
+        const utility::CCommandTable& commands =
+            *core::Application::getInstance()->getCommandTable();
+        const QString claim =
+            QStringLiteral("%1 commands of a civil-engineering drafting application in %2 groups")
+                .arg(commands.size())
+                .arg(commands.groups().size());
+        const QByteArray readme = test::readFile(QStringLiteral(KS_SOURCE_DIR "/README.md"));
+        QVERIFY2(QString::fromUtf8(readme).simplified().contains(claim), qPrintable(claim));
     }
 
     void cancelKeepsTheKeysAsTheyWere()

@@ -21,6 +21,7 @@
 
 #include <QComboBox>
 #include <QFile>
+#include <QItemSelectionModel>
 #include <QTableView>
 #include <QTest>
 
@@ -104,7 +105,7 @@ int rowOfKind(CKsDialog& d, const QString& kind)
 void pickByDoubleClick(CKsDialog& d, const QString& kind)
 {
     QCOMPARE(d.windowTitle(), QStringLiteral("図面参照 - 要素の選択"));
-    QVERIFY(!test::isEnabled(d, ui::framework::IDOK)); // nothing picked yet
+    QVERIFY(test::isEnabled(d, ui::framework::IDOK)); // the first row is chosen
     QTableView& list = pickList(d);
     const int row = rowOfKind(d, kind);
     QVERIFY(row >= 0);
@@ -305,18 +306,18 @@ private slots:
         QTest::addColumn<QString>("reason");
         const QByteArray layer = "<layer name=\"A\"/>\n";
         QTest::newRow("colour") << layer + "<figure layer=\"A\" color=\"red-ish\"/>"
-                                << "line 2: a figure's colour";
+                                << "2 行目: 要素の色";
         QTest::newRow("width word") << layer + "<figure layer=\"A\" width=\"heavy\"/>"
-                                    << "not heavy";
+                                    << "(heavy ではありません)";
         QTest::newRow("width too wide") << layer + "<figure layer=\"A\" width=\"70\"/>"
-                                        << "0 to 65.535 mm";
+                                        << "0 から 65.535 mm";
         QTest::newRow("negative width") << layer + "<figure layer=\"A\" width=\"-0.1\"/>"
-                                        << "not -0.1";
+                                        << "(-0.1 ではありません)";
         QTest::newRow("zero dash")
-            << QByteArray("<linetype name=\"X\" dashes=\"3 0\"/>") << "not 0: 0";
+            << QByteArray("<linetype name=\"X\" dashes=\"3 0\"/>") << "0 以外の長さ (mm) です: 0";
         QTest::newRow("line type twice")
-            << QByteArray("<linetype name=\"X\"/><linetype name=\"X\"/>") << "listed twice";
-        QTest::newRow("nameless line type") << QByteArray("<linetype/>") << "needs a name";
+            << QByteArray("<linetype name=\"X\"/><linetype name=\"X\"/>") << "二度書かれています";
+        QTest::newRow("nameless line type") << QByteArray("<linetype/>") << "名前が必要です";
     }
     void badFigureLooksRefuseTheDrawing()
     {
@@ -349,6 +350,40 @@ private slots:
         });
         const KsFigure* picked = CFigurePickDlg::pick(db);
         QVERIFY(picked && picked->getLayer() == b);
+    }
+
+    // Opens in the list with its first row chosen; arrows move, Enter picks, Tab reaches the
+    // buttons and the layer filter, which chooses the first row of the layer it shows.
+    void aFigureIsPickedWithTheKeyboardAlone()
+    {
+        test::HostFixture host;
+        CMemoryDataBase db;
+        const KsLayer* a = db.add<KsLayer>(L"A");
+        const KsLayer* b = db.add<KsLayer>(L"B");
+        std::vector<const KsFigure*> figures;
+        for (int i = 0; i < 6; ++i)
+            figures.push_back(db.add<KsFigure>(L"LINE", i < 3 ? a : b));
+        ScopedModalDrivers drivers([](CKsDialog& d) {
+            QTableView& list = pickList(d);
+            QCOMPARE(d.focusWidget(), &list);
+            QVERIFY(test::isEnabled(d, ui::framework::IDOK));
+            QCOMPARE(list.selectionModel()->selectedRows().value(0).row(), 0);
+            QTest::keyClick(&list, Qt::Key_Tab);
+            QCOMPARE(d.focusWidget(), d.GetDlgItem(ui::framework::IDOK));
+            QTest::keyClick(d.focusWidget(), Qt::Key_Tab);
+            QTest::keyClick(d.focusWidget(), Qt::Key_Tab);
+            QComboBox& layers = combo(d, IDC_PICK_LAYER);
+            QCOMPARE(d.focusWidget(), &layers);
+            QTest::keyClick(&layers, Qt::Key_Down); // layer A
+            QTest::keyClick(&layers, Qt::Key_Down); // layer B
+            QCOMPARE(list.selectionModel()->selectedRows().value(0).row(), 0);
+            QTest::keyClick(&layers, Qt::Key_Tab);
+            QCOMPARE(d.focusWidget(), &list);
+            QTest::keyClick(&list, Qt::Key_Down);
+            QTest::keyClick(&list, Qt::Key_Return);
+            QVERIFY(d.isEnded());
+        });
+        QCOMPARE(CFigurePickDlg::pick(db), figures[4]);
     }
 };
 

@@ -6,10 +6,12 @@
 #include "drawing/DrawingFile.h"
 #include "dxf/DxfReader.h"
 #include "dxf/DxfText.h"
+#include "picking/FigureListModel.h"
 #include "view/LayerViews.h"
 
 #include "db/KsLayerManager.h"
 #include "element/KsViewPort.h"
+#include "setting/SystemColorSetting.h"
 #include "types/KsFigure.h"
 #include "types/KsLayer.h"
 #include "types/KsLineType.h"
@@ -337,6 +339,40 @@ private slots:
         QVERIFY(found[0]->getLayerFlgs() == element::LayerFlagMap({{L"旧地形", 2}}));
         QVERIFY(found[1]->getLayerFlgs() == element::LayerFlagMap({{L"ROAD", 2}}));
         QCOMPARE(countFigures(*db).figures, 3);
+    }
+
+    // ACI 1 to 7 are the system palette's colours (as the user set them), others the standard
+    // RGB; the number read stays with the layer's or figure's colour.
+    void colourNumbersAreThePalettesAndKeptForWritingBack()
+    {
+        test::HostFixture host;
+        auto palette = ui::setting::CSystemColorSetting::makeDefault();
+        std::vector<KsColor> colors = palette.getColors();
+        colors[2].setRGB(0x008000); // the user's own green
+        palette.setColors(colors);
+        host.config().putSetting(std::make_unique<ui::setting::CSystemColorSetting>(palette));
+        const auto db = readText(groups(
+            "0=SECTION 2=TABLES 0=TABLE 2=LAYER 0=LAYER 2=GREEN 70=0 62=3 0=LAYER 2=ORANGE 70=0 "
+            "62=-30 0=LAYER 2=INK 70=0 62=7 0=ENDTAB 0=ENDSEC 0=SECTION 2=ENTITIES 0=LINE 8=INK "
+            "62=5 0=LINE 8=INK 62=131 0=ENDSEC 0=EOF"));
+        QVERIFY(db);
+        const auto lines = db->elementsOf<KsFigure>(L"LINE");
+        const std::vector<std::tuple<KsColor, std::uint32_t, QString, int>> expected{
+            {layerNamed(*db, QStringLiteral("GREEN"))->getColor(), 0x008000u, "緑", 3},
+            {layerNamed(*db, QStringLiteral("ORANGE"))->getColor(), 0xFF8000u, "30", 30},
+            {layerNamed(*db, QStringLiteral("INK"))->getColor(), 0x000000u, "黒", 7},
+            {lines[0]->getColor(), 0x0000FFu, "青", 5},
+            {lines[1]->getColor(), 0x80FFFFu, "RGB(128,255,255)", 131},
+        };
+        for (std::size_t i = 0; i < expected.size(); ++i) {
+            const auto& [color, rgb, name, number] = expected[i];
+            QCOMPARE(color.getRGB(), rgb);
+            QCOMPARE(color.getNumber(), number);
+            QCOMPARE(color.getColorType(), int(KsColor::System));
+            const QString shown = i < 3 ? QString::fromStdWString(color.getName())
+                                        : CFigureListModel::colorText(*lines[i - 3], &palette);
+            QCOMPARE(shown, name);
+        }
     }
 
     void entitiesOnLayersTheTableLacksAddThoseLayers()

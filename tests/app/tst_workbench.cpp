@@ -5,11 +5,14 @@
 
 #include "drawing/DrawingFile.h"
 #include "session/Session.h"
+#include "session/SettingsFolder.h"
 #include "window/Screenshots.h"
 
 #include "control/KsListCtrl.h"
 #include "element/KsCrossSectionView.h"
 #include "element/KsViewPort.h"
+#include "framework/AccessibleNames.h"
+#include "framework/MessageBox.h"
 #include "framework/ModalHook.h"
 #include "hatch/DrawingHatch.h"
 #include "setting/SystemHatchingSetting.h"
@@ -19,8 +22,11 @@
 #include "types/KsScale.h"
 
 #include <QDir>
+#include <QEvent>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
+#include <QSet>
 #include <QTest>
 
 using namespace kesto;
@@ -67,6 +73,27 @@ void hideFirstRows(CKsDialog& d)
     QVERIFY(test::click(d, 1040));
     QVERIFY(test::click(d, 1));
 }
+
+// Notes each dialog as it is shown, and its keyboard controls without an accessible name.
+class AccessibleNameWatch : public QObject {
+public:
+    int dialogs = 0;
+    QStringList unnamed;
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        auto* dialog = qobject_cast<CKsDialog*>(watched);
+        if (!dialog || !dialog->isWindow() || event->type() != QEvent::Show)
+            return false;
+        ++dialogs;
+        for (const QWidget* control : ui::framework::keyboardControls(*dialog)) {
+            if (control->accessibleName().isEmpty())
+                unnamed << dialog->windowTitle() + QStringLiteral(": ")
+                               + QString::fromLatin1(control->metaObject()->className());
+        }
+        return false;
+    }
+};
 
 // The names of the dlgdata elements under the root of a dialog data file.
 QStringList dialogDataNames(const QString& path)
@@ -170,16 +197,16 @@ private slots:
         QTest::newRow("zero scale")
             << "c.xml"
             << QByteArray("<drawing><scale numerator=\"1\" denominator=\"0\"/></drawing>")
-            << "greater than zero";
+            << "0 より大きい";
         QTest::newRow("nameless coordinate system")
-            << "f.xml" << QByteArray("<drawing><coordsys/></drawing>") << "needs a name";
+            << "f.xml" << QByteArray("<drawing><coordsys/></drawing>") << "名前が必要です";
         QTest::newRow("nameless layer")
-            << "d.xml" << QByteArray("<drawing><layer/></drawing>") << "needs a name";
+            << "d.xml" << QByteArray("<drawing><layer/></drawing>") << "名前が必要です";
         QTest::newRow("figure before its layer")
             << "f.xml" << QByteArray("<drawing><figure layer=\"A\"/><layer name=\"A\"/></drawing>")
-            << "line 1: a figure needs";
+            << "1 行目: 要素には";
         QTest::newRow("unknown format")
-            << "e.dwg" << QByteArray("AC1027") << "unknown drawing format";
+            << "e.dwg" << QByteArray("AC1027") << "図面の形式が分かりません";
     }
     void badDrawingFilesAreRefusedWithAReason()
     {
@@ -197,7 +224,7 @@ private slots:
         QVERIFY2(error.contains(reason), qPrintable(error));
         QVERIFY(error.contains(path));
         QVERIFY(!openDrawing(host.path(QStringLiteral("none.xml")), &error));
-        QVERIFY(error.contains(QStringLiteral("no such file")));
+        QVERIFY(error.contains(QStringLiteral("ファイルがありません")));
     }
 
     void layerDialogsOpenOnTheDrawingAndKeepTheirFlagsWithItsViews()
@@ -238,6 +265,26 @@ private slots:
         QVERIFY(!bench.session.openDrawingTopic(*editSections, &message));
         QCOMPARE(message, QStringLiteral("キャンセルしました。"));
         QCOMPARE(sections[1]->getLayerFlgs().size(), std::size_t(2));
+    }
+
+    // The layout viewport of a real paper-space drawing comes in as a view of the drawing, and
+    // the layer dialog edits it there.
+    void aPaperSpaceViewportOfARealDrawingIsEditedLikeAnyView()
+    {
+        test::HostFixture host;
+        Workbench bench(host.folder());
+        QString message;
+        const QString drawing = test::dataFile(QStringLiteral("dxf/libredwg_gh109_r2013_cjk.dxf"));
+        QVERIFY2(bench.session.openDrawing(drawing, &message), qPrintable(message));
+        const auto viewports = viewPortsOf(*bench.session.drawing());
+        QCOMPARE(viewports.size(), std::size_t(1)); // ID 2; ID 1 is the sheet
+        QCOMPARE(describeView(*viewports[0]), QStringLiteral("ビューポート A34: 表示 0, 非表示 0"));
+        ScopedModalDrivers drivers(hideFirstRows);
+        QVERIFY(bench.session.openDrawingTopic(
+            *bench.session.findDrawingTopic(QStringLiteral("layer-viewport-edit")), &message));
+        QCOMPARE(message, QStringLiteral("1 個のビューを変更しました。"));
+        QCOMPARE(describeView(*viewports[0]), QStringLiteral("ビューポート A34: 表示 0, 非表示 2"));
+        QVERIFY(viewports[0]->getLayerFlgs().count(L"0"));
     }
 
     void theSharedFlagsOfSeveralViewsKeepWhereTheyDiffer()
@@ -308,6 +355,42 @@ private slots:
         QVERIFY(test::readFile(problem.backup) == broken);
     }
 
+    // Said in a window that names the folder and why; the user may choose another folder
+    // (asked again while that fails too) or give up. Without a chooser no window is shown.
+    void anUncreatableSettingsFolderIsSaidInAWindowAndAnotherMayBeChosen()
+    {
+        test::HostFixture host;
+        QVERIFY(test::writeFile(host.path(QStringLiteral("file")), "x"));
+        const QString blocked = host.path(QStringLiteral("file/settings"));
+        const QString again = host.path(QStringLiteral("file/again"));
+        const QString chosen = host.path(QStringLiteral("chosen"));
+        auto problemWith = [](const QString& folder) {
+            return QStringLiteral("設定フォルダ %1 を作成できません (パスの途中にフォルダでないもの"
+                                  "があります)。")
+                .arg(folder);
+        };
+        ui::framework::MessageBoxRecorder boxes;
+        QStringList asked;
+        const auto choose = [&](const QString& failed) {
+            asked << failed;
+            return asked.size() == 1 ? again : chosen;
+        };
+        QString problem;
+        QCOMPARE(settleSettingsFolder(blocked, choose, &problem), chosen);
+        QVERIFY(QFileInfo(chosen).isDir());
+        QCOMPARE(asked, QStringList({blocked, again}));
+        QCOMPARE(boxes.count(), std::size_t(2));
+        QCOMPARE(test::lastBox(boxes), QStringLiteral("設定フォルダ|") + problemWith(again)
+                                           + QStringLiteral("\n別のフォルダを選びますか？"));
+        boxes.answerNext(ui::framework::IDNO);
+        QVERIFY(settleSettingsFolder(blocked, choose, &problem).isEmpty());
+        QCOMPARE(problem, problemWith(blocked));
+        QVERIFY(settleSettingsFolder(blocked, {}, &problem).isEmpty());
+        QCOMPARE(boxes.count(), std::size_t(3));
+    }
+
+    // Every dialog, in every state worth a picture: rendered once (no two pictures alike), and
+    // every control it shows has an accessible name.
     void everyDialogIsRenderedWithItsTitleBar()
     {
         test::HostFixture host;
@@ -315,7 +398,18 @@ private slots:
         QString error;
         QVERIFY(bench.session.openDrawing(sampleDrawing(), &error));
         const QString dir = host.path(QStringLiteral("shots"));
+        AccessibleNameWatch watch;
+        qApp->installEventFilter(&watch);
         const QStringList files = renderTopicScreenshots(bench.session, dir, &error);
+        qApp->removeEventFilter(&watch);
+        QVERIFY2(watch.unnamed.isEmpty(), qPrintable(watch.unnamed.join(u'\n')));
+        QVERIFY(watch.dialogs >= files.size());
+        QSet<QByteArray> pictures;
+        for (const QString& file : files) {
+            const QByteArray picture = test::readFile(file);
+            QVERIFY2(!pictures.contains(picture), qPrintable(file));
+            pictures.insert(picture);
+        }
         QVERIFY(error.isEmpty());
         QVERIFY(files.contains(QDir(dir).filePath(QStringLiteral("system-scale.png"))));
         QVERIFY(files.contains(QDir(dir).filePath(QStringLiteral("system-scale-drawing.png"))));

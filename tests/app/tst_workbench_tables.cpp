@@ -44,14 +44,12 @@ private slots:
     {
         QTest::addColumn<QByteArray>("element");
         QTest::addColumn<QString>("reason");
-        QTest::newRow("no width") << QByteArray("<linewidth color=\"#FFFFFF\"/>")
-                                  << "greater than zero";
-        QTest::newRow("zero width")
-            << QByteArray("<linewidth width=\"0\"/>") << "greater than zero";
+        QTest::newRow("no width") << QByteArray("<linewidth color=\"#FFFFFF\"/>") << "0 より大きい";
+        QTest::newRow("zero width") << QByteArray("<linewidth width=\"0\"/>") << "0 より大きい";
         QTest::newRow("bad colour")
             << QByteArray("<linewidth width=\"1\" color=\"white-ish\"/>") << "#RRGGBB";
         QTest::newRow("bad kind") << QByteArray("<linewidthkinds bold=\"thick\"/>")
-                                  << "bold must be";
+                                  << "bold は 0 より大きい";
     }
     void badLineWidthElementsRefuseTheDrawing()
     {
@@ -63,7 +61,7 @@ private slots:
         QString error;
         QVERIFY(!openDrawing(path, &error));
         QVERIFY2(error.contains(reason), qPrintable(error));
-        QVERIFY(error.contains(QStringLiteral("line 2")));
+        QVERIFY(error.contains(QStringLiteral("2 行目")));
     }
 
     void theLineWidthTopicEditsTheOpenDrawing()

@@ -2,11 +2,19 @@
 // built from layouts, the modal seam and the message box seam.
 #include "support/TestSupport.h"
 
+#include "framework/AccessibleNames.h"
 #include "framework/MessageBox.h"
 #include "framework/ModalHook.h"
 #include "framework/Resources.h"
 
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -202,6 +210,43 @@ private slots:
         QCOMPARE(recorder.shown()[0].text, QStringLiteral("本文"));
         QCOMPARE(recorder.shown()[0].caption, QStringLiteral("題"));
         QCOMPARE(recorder.shown()[0].type, unsigned(MB_OKCANCEL));
+    }
+
+    // Names come from the buddy label, the control's own text, the label before it, its tool
+    // tip, then its group box or window; inner parts of a control are not controls.
+    void controlsAreNamedFromWhatASightedUserReads()
+    {
+        QWidget window;
+        window.setWindowTitle(QStringLiteral("線幅の設定"));
+        auto* layout = new QVBoxLayout(&window);
+        auto* buddy = new QLabel(QStringLiteral("線種(&L):"));
+        auto* lineType = new QComboBox;
+        lineType->setEditable(true);
+        buddy->setBuddy(lineType);
+        auto* row = new QHBoxLayout;
+        auto* width = new QLineEdit;
+        row->addWidget(new QLabel(QStringLiteral("幅 (mm)：")));
+        row->addWidget(width);
+        auto* help = new QPushButton(QStringLiteral("ヘルプ(&H)"));
+        auto* arrow = new QPushButton(QStringLiteral("..."));
+        arrow->setToolTip(QStringLiteral("他の色"));
+        auto* group = new QGroupBox(QStringLiteral("図面枠"));
+        auto* list = new QListWidget(group);
+        (new QVBoxLayout(group))->addWidget(list);
+        auto* named = new QSpinBox;
+        named->setAccessibleName(QStringLiteral("既に名前あり"));
+        auto* loose = new QCheckBox;
+        for (QWidget* w :
+             std::initializer_list<QWidget*>{buddy, lineType, help, arrow, group, named, loose})
+            layout->addWidget(w);
+        layout->addLayout(row);
+        nameControls(window);
+        const QList<std::pair<QWidget*, QString>> expected{
+            {lineType, "線種"}, {width, "幅 (mm)"},      {help, "ヘルプ"},     {arrow, "他の色"},
+            {list, "図面枠"},   {named, "既に名前あり"}, {loose, "線幅の設定"}};
+        for (const auto& [widget, name] : expected)
+            QCOMPARE(widget->accessibleName(), name);
+        QCOMPARE(keyboardControls(window).size(), expected.size());
     }
 
     void handlerExceptionsAreLoggedAndRethrown();

@@ -14,7 +14,10 @@
 #include "utility/NumberFormat.h"
 #include "utility/Xml.h"
 
+#include <QDir>
 #include <QFile>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace kesto;
@@ -215,6 +218,34 @@ private slots:
                  140);
         QCOMPARE(store.readInt(QStringLiteral("SystemPaperSizeDlg"), QStringLiteral("head1"), 100),
                  100);
+    }
+
+    // Written in the background, there after sync and after a restart; without a file nowhere.
+    void placementsReachTheirFileOnlyWhenTheStoreHasOne()
+    {
+        QTemporaryDir dir;
+        const QString file = dir.filePath(QStringLiteral("placements.ini"));
+        const QString key = QStringLiteral("LineWidthDlg");
+        const QString name = QStringLiteral("column1");
+        {
+            core::PlacementStore store;
+            store.useFile(file);
+            store.writeInt(key, name, 120);
+            QVERIFY(store.sync());
+            core::PlacementStore restarted;
+            restarted.useFile(file);
+            QCOMPARE(restarted.readInt(key, name, 0), 120);
+            store.useMemory();
+            store.writeInt(key, name, 90);
+            QCOMPARE(store.readInt(key, name, 0), 90);
+            QVERIFY(store.sync());
+        }
+        QCOMPARE(QSettings(file, QSettings::IniFormat).value(key + u'/' + name).toInt(), 120);
+        QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList{"placements.ini"});
+        core::PlacementStore unwritable;
+        unwritable.useFile(QStringLiteral("/proc/kesto/placements.ini"));
+        unwritable.writeInt(key, name, 1);
+        QVERIFY(!unwritable.sync());
     }
 
     void lineTypeTableResolvesNamesAndRefusesBadTables()

@@ -239,6 +239,9 @@ private slots:
         QVERIFY(!drawing.spare->isVisible());
         QVERIFY(!editor.previewAll());
         QCOMPARE(view.redraws, 1);
+        editor.setFlag(Spare, 1); // a layer without figures: the whole preview still redraws
+        QVERIFY(editor.previewAll());
+        QCOMPARE(view.redraws, 2);
     }
 
     void editModePreviewsTheViewsAndNeverTheirStoredFlags()
@@ -305,6 +308,9 @@ private slots:
         QCOMPARE(int(b.getLayerFlg(L"道路中心線")), 2);
         QCOMPARE(int(b.getLayerFlg(L"予備")), 1); // kept
         QCOMPARE(int(b.getLayerFlg(L"構造物")), 0);
+        editor.setFlag(Spare, 2); // no figures on it, redrawn all the same
+        QVERIFY(editor.previewAll());
+        QCOMPARE(view.redraws, 2);
     }
 
     void aBatchRedrawsOnceForManyRows()

@@ -11,6 +11,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
 
 using namespace kesto;
@@ -107,6 +108,8 @@ private slots:
             QVERIFY(list.columnWidth(0) > 2 * list.columnWidth(1));
             QCOMPARE(list.columnWidth(6), list.columnWidth(7));
             QVERIFY(list.columnWidth(9) > list.columnWidth(5));
+            QCoreApplication::processEvents();                  // the list lays out its scroll bars
+            QCOMPARE(list.horizontalScrollBar()->maximum(), 0); // every column shows at once
             QVERIFY(test::isShown(d, Keep) && !test::isEnabled(d, Keep));
             QCOMPARE(buttonText(d, On), QStringLiteral("表示"));
             QCOMPARE(buttonText(d, Off), QStringLiteral("非表示"));

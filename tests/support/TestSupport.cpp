@@ -37,7 +37,7 @@ HostFixture::~HostFixture()
     host->setSystemConfig(nullptr);
     host->log().removeSink(m_log);
     host->setHelpHandler(m_previousHelp);
-    host->placements().useFile(QDir::temp().filePath(QStringLiteral("kesto-test-placements.ini")));
+    host->placements().useMemory();
 }
 
 void HostFixture::putTables()

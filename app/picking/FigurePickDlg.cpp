@@ -17,12 +17,6 @@
 
 namespace kesto::workbench {
 
-using ui::framework::guardHandler;
-
-namespace {
-const char* const kClass = "CFigurePickDlg";
-}
-
 CFigurePickDlg::CFigurePickDlg(const IDataBase& drawing)
     : CKsDialog(IDD_PICK_FIGURE)
     , m_drawing(drawing)
@@ -42,7 +36,7 @@ const KsFigure* CFigurePickDlg::pick(const IDataBase& drawing)
 
 bool CFigurePickDlg::OnInitDialog()
 {
-    return guardHandler(kClass, "OnInitDialog", [&] {
+    return guarded([&] {
         m_layer = dlgItem<QComboBox>(IDC_PICK_LAYER);
         m_list = dlgItem<QTableView>(IDC_PICK_LIST);
         m_count = dlgItem<QLabel>(IDC_PICK_COUNT);
@@ -107,7 +101,7 @@ void CFigurePickDlg::refreshOk()
 
 void CFigurePickDlg::OnOK()
 {
-    guardHandler(kClass, "OnOK", [&] {
+    guarded([&] {
         m_picked = selectedFigure();
         if (m_picked)
             EndDialog(ui::framework::IDOK);

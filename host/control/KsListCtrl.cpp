@@ -260,12 +260,21 @@ void CKsListCtrl::selectRow(int row)
     scrollTo(index);
 }
 
+// Neighbouring rows make one range, so a large selection stays cheap to paint.
 void CKsListCtrl::setRowsSelected(const std::vector<int>& rows)
 {
+    std::vector<int> sorted;
+    std::copy_if(rows.begin(), rows.end(), std::back_inserter(sorted),
+                 [this](int r) { return m_model->isValidRow(r); });
+    std::sort(sorted.begin(), sorted.end());
     QItemSelection selection;
-    for (int r : rows) {
-        if (m_model->isValidRow(r))
-            selection.select(m_model->index(r, 0), m_model->index(r, getColumnCount() - 1));
+    const int last = getColumnCount() - 1;
+    for (std::size_t i = 0; i < sorted.size();) {
+        std::size_t end = i;
+        while (end + 1 < sorted.size() && sorted[end + 1] <= sorted[end] + 1)
+            ++end;
+        selection.select(m_model->index(sorted[i], 0), m_model->index(sorted[end], last));
+        i = end + 1;
     }
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
 }

@@ -70,13 +70,13 @@ public:
     void addColumns(const std::function<int(int)>& dialogUnits);
     QString flagText(const SLayerRow& row) const
     {
-        return layerflags::textOfFlag(flagTexts, editor.row(row.record).flag,
+        return layerflagrules::textOfFlag(flagTexts, editor.row(row.record).flag,
                                       !editor.isCreateMode());
     }
 
     const SProfile& profile;
-    layerflags::CLayerFlagEditor editor;
-    layerflags::SFlagTexts flagTexts;
+    layerflagrules::CLayerFlagEditor editor;
+    layerflagrules::SFlagTexts flagTexts;
     control::CKsListCtrl* list = nullptr;
     control::TRecordTableModel<SLayerRow>* model = nullptr;
     bool destroyed = false;
@@ -112,11 +112,11 @@ void CEditLayersDlgBase::Private::addColumns(const std::function<int(int)>& unit
     };
     control::TTableColumn<SLayerRow> flag{
         columns::look(loadString(profile.flagColumnTitle), units(80), EColumnType::Combo)};
-    flag.look.items = layerflags::flagItems(flagTexts, !editor.isCreateMode());
+    flag.look.items = layerflagrules::flagItems(flagTexts, !editor.isCreateMode());
     flag.look.background = kFlagBackground;
     flag.text = [this](const SLayerRow& r) { return flagText(r); };
     flag.read = [this](SLayerRow& r, const QString& typed) {
-        const int value = layerflags::flagOfText(flagTexts, typed);
+        const int value = layerflagrules::flagOfText(flagTexts, typed);
         if (value < 0 || value == editor.row(r.record).flag)
             return false;
         editor.setFlag(r.record, static_cast<char>(value));
@@ -300,7 +300,7 @@ bool CEditLayersDlgBase::updateByRowChange(int row)
 void CEditLayersDlgBase::changeComboboxInSelectedRow(const QString& text)
 {
     const std::vector<int> selected = d->list->getSelectedRows();
-    const int flag = layerflags::flagOfText(d->flagTexts, text);
+    const int flag = layerflagrules::flagOfText(d->flagTexts, text);
     if (selected.empty() || flag < 0)
         return;
     d->editor.batch([&] {
@@ -347,7 +347,7 @@ void CEditLayersDlgBase::OnOK()
         framework::logHandlerEntry(handlerClass(), QStringLiteral("OnOK"));
         const bool editMode = !d->editor.isCreateMode();
         for (std::size_t i = 0; i < d->editor.rowCount(); ++i)
-            d->editor.setFlag(i, layerflags::shownFlag(d->editor.row(i).flag, editMode));
+            d->editor.setFlag(i, layerflagrules::shownFlag(d->editor.row(i).flag, editMode));
         EndDialog(framework::IDOK);
     });
 }

@@ -8,7 +8,7 @@
 
 #include <unordered_map>
 
-namespace kesto::ui::config::layerflags {
+namespace kesto::ui::config::layerflagrules {
 
 using namespace element;
 
@@ -289,4 +289,4 @@ void CLayerFlagEditor::getLayerFlgArray(LayerFlagArray& out) const
     }
 }
 
-} // namespace kesto::ui::config::layerflags
+} // namespace kesto::ui::config::layerflagrules

@@ -17,7 +17,7 @@ class KsLayerManager;
 
 // The widget-free part of the layer show/hide and reference dialogs: the rows, the live
 // preview and its undo, and how the result merges into a view's flags.
-namespace kesto::ui::config::layerflags {
+namespace kesto::ui::config::layerflagrules {
 
 using element::LayerFlagMap;
 using LayerFlagArray = std::vector<std::pair<std::wstring, char>>;
@@ -116,4 +116,4 @@ private:
     bool m_redrawPending = false;
 };
 
-} // namespace kesto::ui::config::layerflags
+} // namespace kesto::ui::config::layerflagrules

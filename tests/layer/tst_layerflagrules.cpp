@@ -9,7 +9,7 @@
 #include <stdexcept>
 
 using namespace kesto;
-using namespace kesto::ui::config::layerflags;
+using namespace kesto::ui::config::layerflagrules;
 using element::LayerFlagMap;
 using test::CountingView;
 using test::LayerDrawing;

@@ -3,6 +3,10 @@
 #include <QDomDocument>
 #include <QString>
 
+namespace kesto::utility {
+class CReadReport;
+}
+
 #include <memory>
 #include <string>
 
@@ -21,18 +25,27 @@ public:
     // Same class and isSame.
     virtual bool equals(const CSettingBase& other) const = 0;
 
-    // Reads the whole setting from its element; on false the setting is unchanged.
+    // Reads the whole setting from its element; on false the setting is unchanged. Inside a
+    // utility::xml::CSkipBadEntries an entry that cannot be read is skipped instead.
     virtual bool loadXMLNode(const QDomElement& element) = 0;
     virtual void saveXMLNode(QDomDocument& doc, QDomElement& element) const = 0;
 
-    // File form; loading is all-or-nothing, saving is atomic.
+    // File form. loadXML is all or nothing. readXML uses what it can: entries that cannot be
+    // read are skipped, a file that ends early gives what came before; it is false (the setting
+    // unchanged) only when nothing of the file could be used. Either way report says what was
+    // not read. Saving is a read-modify-write under the file's lock, written atomically.
     bool loadXML(const std::wstring& path, QString* error = nullptr);
+    bool readXML(const std::wstring& path, utility::CReadReport& report);
+    QDomDocument toXML() const;
     bool saveXML(const std::wstring& path, QString* error = nullptr) const;
 
 protected:
     CSettingBase() = default;
     CSettingBase(const CSettingBase&) = default;
     CSettingBase& operator=(const CSettingBase&) = default;
+
+private:
+    bool read(const std::wstring& path, utility::CReadReport& report, bool skipBadEntries);
 };
 
 // clone and assign for a concrete setting class.

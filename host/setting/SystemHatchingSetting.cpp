@@ -1,6 +1,7 @@
 #include "setting/SystemHatchingSetting.h"
 
 #include "setting/HatchXml.h"
+#include "utility/Xml.h"
 
 #include <algorithm>
 #include <set>
@@ -77,16 +78,21 @@ void savePatterns(QDomDocument& doc, QDomElement& root, const QString& listName,
         pattern.saveXMLNode(list, doc);
 }
 
-// Each pattern starts from its defaults; the names are checked by the caller.
+// Each pattern starts from its defaults; one without a name of its own is not read.
 template <class Pattern>
 bool loadPatterns(const QDomElement& root, const QString& listName, std::vector<Pattern>& out)
 {
     const QString tag = Pattern().getNodeName();
     const QDomElement list = root.firstChildElement(listName);
+    std::set<std::wstring> names;
     for (QDomElement e = list.firstChildElement(tag); !e.isNull(); e = e.nextSiblingElement(tag)) {
         Pattern pattern;
-        if (!pattern.loadXMLNode(e, nullptr))
+        if (!pattern.loadXMLNode(e, nullptr) || pattern.name.empty()
+            || !names.insert(pattern.name).second) {
+            if (utility::xml::skipEntry(e))
+                continue;
             return false;
+        }
         out.push_back(pattern);
     }
     return true;
@@ -160,12 +166,17 @@ bool CSystemHatchingSetting::isSame(const CSystemHatchingSetting& other) const
 bool CSystemHatchingSetting::loadXMLNode(const QDomElement& element)
 {
     std::vector<SBaseFigure> figures;
+    std::set<std::wstring> names;
     const QDomElement figureList = element.firstChildElement(QStringLiteral("BaseFigures"));
     for (QDomElement e = figureList.firstChildElement(QStringLiteral("BaseFigure")); !e.isNull();
          e = e.nextSiblingElement(QStringLiteral("BaseFigure"))) {
         SBaseFigure figure;
-        if (!loadBaseFigure(e, figure))
+        if (!loadBaseFigure(e, figure) || figure.name.empty()
+            || !names.insert(figure.name).second) {
+            if (utility::xml::skipEntry(e))
+                continue;
             return false;
+        }
         figures.push_back(std::move(figure));
     }
     CSystemHatchingSetting read;

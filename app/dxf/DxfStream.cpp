@@ -86,10 +86,11 @@ bool CDxfStreamBuf::fillBuffer()
     return read > 0;
 }
 
-// The next line without its end; a line longer than the limit is cut, the rest skipped.
-bool CDxfStreamBuf::readLine(std::string& line)
+// Appends the next line to m_text with a '\n' of its own, cut to the limit (the rest skipped)
+// and without a '\r' at its end; false at the end of the text.
+bool CDxfStreamBuf::appendLine()
 {
-    line.clear();
+    const std::size_t start = m_text.size();
     bool any = false;
     for (;;) {
         if (m_at == m_end && !fillBuffer())
@@ -98,8 +99,8 @@ bool CDxfStreamBuf::readLine(std::string& line)
         const char* begin = m_buffer.data() + m_at;
         const auto* newline = static_cast<const char*>(std::memchr(begin, '\n', m_end - m_at));
         const std::size_t length = newline ? std::size_t(newline - begin) : m_end - m_at;
-        const std::size_t room = std::size_t(m_limits.maxLineLength) - line.size();
-        line.append(begin, std::min(length, room));
+        const std::size_t room = std::size_t(m_limits.maxLineLength) - (m_text.size() - start);
+        m_text.append(begin, std::min(length, room));
         m_at += length;
         if (newline) {
             ++m_at;
@@ -108,10 +109,16 @@ bool CDxfStreamBuf::readLine(std::string& line)
     }
     if (!any)
         return false;
-    while (!line.empty() && line.back() == '\r')
-        line.pop_back();
+    while (m_text.size() > start && m_text.back() == '\r')
+        m_text.pop_back();
+    m_text += '\n';
     ++m_line;
     return true;
+}
+
+std::string_view CDxfStreamBuf::textOf(std::size_t begin, std::size_t end) const
+{
+    return std::string_view(m_text).substr(begin, end - begin);
 }
 
 bool CDxfStreamBuf::stop(std::int64_t line, const QString& reason)
@@ -121,25 +128,32 @@ bool CDxfStreamBuf::stop(std::int64_t line, const QString& reason)
     return false;
 }
 
-// False at the end of the text, or where a pair breaks a rule (stop set).
-bool CDxfStreamBuf::readPair(int& code, std::string& value, std::int64_t& codeLine)
+// Appends the next pair to m_text. False at the end of the text, or where the pair breaks a rule
+// (stop set).
+bool CDxfStreamBuf::readPair(SPair& pair)
 {
-    std::string codeText;
+    std::string_view codeText;
     do { // blank lines where a group code belongs are passed over
-        if (!readLine(codeText))
+        pair.begin = m_text.size();
+        if (!appendLine())
             return false;
-    } while (trimmed(codeText).empty());
-    codeLine = m_line;
+        codeText = trimmed(textOf(pair.begin, m_text.size() - 1));
+        if (codeText.empty())
+            m_text.resize(pair.begin);
+    } while (codeText.empty());
+    pair.line = m_line;
     const std::optional<long long> number = toInteger(codeText);
     if (!number || *number < -5 || *number > 1071)
         return stop(
             m_line,
             tr("グループコード %1 が -5 から 1071 の数ではありません").arg(quoted(codeText)));
-    code = int(*number);
-    if (!readLine(value))
+    pair.code = int(*number);
+    pair.valueBegin = m_text.size();
+    if (!appendLine())
         return stop(
-            codeLine,
-            tr("グループコード %1 に値がありません (ファイルが途中で切れています)").arg(code));
+            pair.line,
+            tr("グループコード %1 に値がありません (ファイルが途中で切れています)").arg(pair.code));
+    pair.valueEnd = m_text.size() - 1;
     return true;
 }
 
@@ -165,33 +179,31 @@ bool CDxfStreamBuf::onRecordKind(const std::string& kind)
     return true;
 }
 
-bool CDxfStreamBuf::appendPair(int code, const std::string& value, std::int64_t codeLine)
+// Takes the pair read last into the record.
+bool CDxfStreamBuf::takePair(const SPair& pair)
 {
-    if (code == 0) {
+    const std::string_view value = textOf(pair.valueBegin, pair.valueEnd);
+    if (pair.code == 0) {
         m_kind = trimmed(value);
-        m_kindLine = codeLine;
+        m_kindLine = pair.line;
         if (!onRecordKind(m_kind))
             return false;
     } else {
         if (++m_values > m_limits.maxPairsPerRecord)
-            return stop(codeLine, tr("%1 (%2 行目から) の値が多すぎます (上限 %3)")
-                                      .arg(QString::fromStdString(m_kind))
-                                      .arg(m_kindLine)
-                                      .arg(m_limits.maxPairsPerRecord));
-        if (m_expectSectionName && code == 2) {
+            return stop(pair.line, tr("%1 (%2 行目から) の値が多すぎます (上限 %3)")
+                                       .arg(QString::fromStdString(m_kind))
+                                       .arg(m_kindLine)
+                                       .arg(m_limits.maxPairsPerRecord));
+        if (m_expectSectionName && pair.code == 2) {
             m_section = trimmed(value);
             m_expectSectionName = false;
         }
-        if (isCountCode(m_kind, code))
-            m_counts.push_back({codeLine, code, toInteger(value).value_or(-1)});
+        if (isCountCode(m_kind, pair.code))
+            m_counts.push_back({pair.line, pair.code, toInteger(value).value_or(-1)});
     }
-    m_text += std::to_string(code);
-    m_text += '\n';
-    m_lineEnds.push_back(m_text.size());
-    m_text += value;
-    m_text += '\n';
-    m_lineEnds.push_back(m_text.size());
-    m_codes.push_back(code);
+    m_valueBounds.push_back(pair.valueBegin);
+    m_valueBounds.push_back(pair.valueEnd);
+    m_codes.push_back(pair.code);
     return true;
 }
 
@@ -210,35 +222,30 @@ bool CDxfStreamBuf::checkRecord()
     return true;
 }
 
-bool CDxfStreamBuf::giveClosingEof()
+void CDxfStreamBuf::giveClosingEof()
 {
     m_text = "0\nEOF\n";
-    m_lineEnds = {2, 6};
+    m_valueBounds = {2, 5};
     m_codes = {0};
-    m_nextLine = 0;
     m_ended = true;
-    return true;
 }
 
 // The next record, whole and checked, into m_text; at the end, or where the text breaks a rule,
 // the closing EOF pair instead.
-bool CDxfStreamBuf::readRecord()
+void CDxfStreamBuf::readRecord()
 {
-    m_text.clear();
-    m_lineEnds.clear();
+    m_text = m_pending; // the 0 pair that began this record, read with the last one
+    m_pending.clear();
+    m_valueBounds.clear();
     m_codes.clear();
-    m_nextLine = 0;
     m_kind.clear();
     m_values = 0;
     m_counts.clear();
-    int code = 0;
-    std::string value;
-    std::int64_t codeLine = 0;
-    if (m_havePending && !appendPair(m_pendingCode, m_pendingValue, m_pendingLine))
+    if (!m_text.empty() && !takePair(m_pendingPair))
         return giveClosingEof();
-    m_havePending = false;
+    SPair pair;
     while (m_kind != "EOF") { // nothing after EOF is read
-        if (!readPair(code, value, codeLine)) {
+        if (!readPair(pair)) {
             const bool empty = m_recordsGiven == 0 && m_codes.empty();
             if (m_stopReason.isEmpty())
                 stop(empty ? 0 : m_line,
@@ -246,39 +253,46 @@ bool CDxfStreamBuf::readRecord()
                            : tr("ファイルが EOF で終わっていません (途中で切れています)"));
             return giveClosingEof();
         }
-        if (code == 0 && !m_codes.empty()) {
-            m_havePending = true;
-            m_pendingCode = code;
-            m_pendingValue = value;
-            m_pendingLine = codeLine;
+        if (pair.code == 0 && !m_codes.empty()) { // the next record begins
+            m_pending = m_text.substr(pair.begin);
+            m_pendingPair = {0, pair.line, 0, pair.valueBegin - pair.begin,
+                             pair.valueEnd - pair.begin};
+            m_text.resize(pair.begin);
             break;
         }
-        if (!appendPair(code, value, codeLine))
+        if (!takePair(pair))
             return giveClosingEof();
     }
     if (!checkRecord())
         return giveClosingEof();
     ++m_recordsGiven;
     m_ended = m_kind == "EOF";
-    return true;
+}
+
+// The record's pairs, before the parser reads any of them: a pair only changes what the creation
+// interface keeps of its own record, and the parser reports a record once the next one begins,
+// so this is what dxflib's file reader, which reports each pair just before parsing it, gives.
+void CDxfStreamBuf::reportPairs()
+{
+    for (std::size_t pair = 0; pair < m_codes.size(); ++pair) {
+        const std::size_t begin = m_valueBounds[2 * pair];
+        const std::size_t end = m_valueBounds[2 * pair + 1];
+        const char* value = m_text.data() + begin;
+        m_value.assign(value, strnlen(value, end - begin)); // dxflib's value stops at a NUL
+        m_pairs.processCodeValuePair(unsigned(m_codes[pair]), m_value);
+    }
 }
 
 CDxfStreamBuf::int_type CDxfStreamBuf::underflow()
 {
     if (gptr() < egptr())
         return traits_type::to_int_type(*gptr());
-    if (m_nextLine >= m_lineEnds.size() && (m_ended || !readRecord()))
+    if (m_ended)
         return traits_type::eof();
-    const std::size_t begin = m_nextLine == 0 ? 0 : m_lineEnds[m_nextLine - 1];
-    const std::size_t end = m_lineEnds[m_nextLine];
-    if (m_nextLine % 2 == 1) { // the parser reads this pair next; dxflib's value stops at a NUL
-        const char* value = m_text.data() + begin;
-        m_pairs.processCodeValuePair(unsigned(m_codes[m_nextLine / 2]),
-                                     std::string(value, strnlen(value, end - begin - 1)));
-    }
-    ++m_nextLine;
+    readRecord();
+    reportPairs();
     char* text = m_text.data();
-    setg(text + begin, text + begin, text + end);
+    setg(text, text, text + m_text.size());
     return traits_type::to_int_type(*gptr());
 }
 

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <streambuf>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class DL_CreationInterface;
@@ -27,9 +28,9 @@ struct SDxfLimits {
 // from -5 to 1071, each with a value, counts no larger than the values their record holds,
 // sections closed before the next begins, and the limits. The stream ends after the EOF pair,
 // whatever follows it, or, when a record breaks a rule or the text ends without EOF, before that
-// record (with a closing EOF pair so the parser finishes what it has). Each pair goes to the
-// creation interface's processCodeValuePair just before the parser reads it, as dxflib's own
-// file reader does. Memory is the largest record, whatever the size of the file.
+// record (with a closing EOF pair so the parser finishes what it has). The pairs of a record go
+// to the creation interface's processCodeValuePair as the parser is given the record, as
+// dxflib's own file reader reports them. Memory is the largest record, whatever the file's size.
 class CDxfStreamBuf : public std::streambuf {
 public:
     CDxfStreamBuf(QIODevice& source, DL_CreationInterface& pairs, const SDxfLimits& limits = {});
@@ -51,15 +52,26 @@ private:
         long long value;
     };
 
-    bool readLine(std::string& line);
+    // A pair in m_text: where it begins, its code and line, where its value lies.
+    struct SPair {
+        int code = 0;
+        std::int64_t line = 0;
+        std::size_t begin = 0;
+        std::size_t valueBegin = 0;
+        std::size_t valueEnd = 0; // before the value's '\n'
+    };
+
     bool fillBuffer();
-    bool readPair(int& code, std::string& value, std::int64_t& codeLine);
-    bool readRecord();
-    bool appendPair(int code, const std::string& value, std::int64_t codeLine);
+    bool appendLine();
+    std::string_view textOf(std::size_t begin, std::size_t end) const;
+    bool readPair(SPair& pair);
+    void readRecord();
+    void reportPairs();
+    bool takePair(const SPair& pair);
     bool checkRecord();
     bool onRecordKind(const std::string& kind);
     bool stop(std::int64_t line, const QString& reason);
-    bool giveClosingEof();
+    void giveClosingEof();
 
     QIODevice& m_source;
     DL_CreationInterface& m_pairs;
@@ -72,21 +84,20 @@ private:
     bool m_sourceDone = false;
     std::int64_t m_line = 0;
 
-    // The record being given: its lines, each ended by '\n', and its pairs' codes.
+    // The record being given: its lines, each ended by '\n'; where each pair's value begins and
+    // ends; the pairs' codes.
     std::string m_text;
-    std::vector<std::size_t> m_lineEnds;
+    std::vector<std::size_t> m_valueBounds;
     std::vector<int> m_codes;
-    std::size_t m_nextLine = 0;
+    std::string m_value;
 
     // The record read so far and the checks on it.
     std::string m_kind;
     std::int64_t m_kindLine = 0;
     std::int64_t m_values = 0;
     std::vector<SCount> m_counts;
-    bool m_havePending = false; // the 0 pair that begins the next record has been read
-    int m_pendingCode = 0;
-    std::string m_pendingValue;
-    std::int64_t m_pendingLine = 0;
+    std::string m_pending; // the 0 pair that begins the next record, once read
+    SPair m_pendingPair;
 
     std::string m_section;
     bool m_inSection = false;

@@ -70,7 +70,6 @@ SLimits SLimits::forSize(qint64 maxBytes)
 {
     SLimits limits;
     limits.maxBytes = maxBytes;
-    limits.maxNodes = maxBytes / 16;
     return limits;
 }
 
@@ -159,8 +158,9 @@ bool CReader::next()
         default:
             break;
         }
-        if (++m_nodes > m_limits.maxNodes)
-            return stop(tr("要素が多すぎます (上限 %1 個)").arg(m_limits.maxNodes));
+        m_nodes += 1 + (token == QXmlStreamReader::StartElement ? m_xml.attributes().size() : 0);
+        if (m_nodes > m_limits.maxNodes)
+            return stop(tr("要素と属性が多すぎます (上限 %1 個)").arg(m_limits.maxNodes));
         if (token != QXmlStreamReader::StartElement)
             return true;
         ++m_depth;

@@ -17,16 +17,17 @@ class QIODevice;
 namespace kesto::utility::xml {
 
 // Settings and data files; a larger file is not one of them.
-inline constexpr qint64 kMaxDocumentBytes = 8LL * 1024 * 1024;
+inline constexpr qint64 kMaxDocumentBytes = 4LL * 1024 * 1024;
 inline constexpr int kMaxDepth = 256;
+// A document of this many nodes takes about 200 MB in a DOM.
+inline constexpr qint64 kMaxNodes = 400'000;
 
 struct SLimits {
     qint64 maxBytes = kMaxDocumentBytes;
     int maxDepth = kMaxDepth;
-    qint64 maxNodes = kMaxDocumentBytes / 16; // elements, texts, comments
+    qint64 maxNodes = kMaxNodes; // elements, attributes, texts, comments
     bool namespaceProcessing = false;
 
-    // The limits for files of up to maxBytes, with a node cap in proportion.
     static SLimits forSize(qint64 maxBytes);
 };
 

@@ -308,6 +308,8 @@ private slots:
         while (huge.size() < 10 * 1024 * 1024)
             huge += "<v>" + filler + "</v>";
         QTest::newRow("10 MB") << huge + "</dlgdata></DialogData>";
+        QTest::newRow("5,000 levels of foreign content")
+            << file(kOther + QByteArray("<x>").repeated(5000) + QByteArray("</x>").repeated(5000));
     }
 
     void badFilesGiveFalseAndAreLeftUntouched()

@@ -192,7 +192,7 @@ private slots:
     }
 
     // Saving is told when it fails, and the setting goes back to what its file holds; the
-    // status bar says "保存しました" only when a file was written.
+    // status bar says "保存しました" only when a file was written. A drawing read in part says so.
     void theWindowSaysWhatWasSavedAndWhatWasNot()
     {
         QTemporaryDir dir;
@@ -228,6 +228,14 @@ private slots:
                                QDir(folder).filePath(QStringLiteral("SystemScaleSetting.xml"))),
                            QDir::toNativeSeparators(folder)));
         QVERIFY(bench.scales().isSame(saved));
+
+        const QString drawing = dir.filePath(QStringLiteral("d.xml"));
+        QVERIFY(test::writeFile(drawing, "<drawing>\n<layer/>\n</drawing>"));
+        window.openDrawing(drawing);
+        QCOMPARE(test::lastBox(boxes),
+                 QStringLiteral("図面を開く|図面 %1 には読めない部分がありました。読めた部分を開き"
+                                "ます。\n2 行目: レイヤには名前 (name) が要ります")
+                     .arg(QDir::toNativeSeparators(drawing)));
     }
 
     void theSampleDrawingOpensWithItsScalesAndLayers()

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Front door: installs what is missing from Debian packages, configures, builds, then
 #   ./dev.sh run [workbench options]   opens the workbench (or renders PNGs without a display)
-#   ./dev.sh test                      runs the tests through ctest
+#   ./dev.sh test                      runs the tests through ctest, then again in the sanitizer
+#                                      build (clang, ASan+UBSan) with a short run of each fuzzer
 #   ./dev.sh build                     builds only
 # Paths given to the workbench are taken from where it is called, not from the checkout.
 # DEV_SKIP_BUILD=1 runs or tests the build as it is.
@@ -15,12 +16,18 @@ case "$BUILD_DIR" in
     /*) ;;
     *) BUILD_DIR="$ROOT/$BUILD_DIR" ;;
 esac
+SANITIZER_BUILD_DIR=${SANITIZER_BUILD_DIR:-build-asan}
+case "$SANITIZER_BUILD_DIR" in
+    /*) ;;
+    *) SANITIZER_BUILD_DIR="$ROOT/$SANITIZER_BUILD_DIR" ;;
+esac
 PACKAGES=(
     g++ cmake ninja-build pkg-config ccache
     qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins
     qt6-tools-dev qt6-l10n-tools qt6-translations-l10n
     libbenchmark-dev libdxflib-dev
     fonts-ipafont-gothic
+    clang libclang-rt-14-dev
 )
 
 missing_packages() {
@@ -57,6 +64,15 @@ build() {
     cmake --build "$BUILD_DIR" --parallel "$(nproc)"
 }
 
+# The same sources with clang, ASan and UBSan, and the libFuzzer targets.
+build_sanitized() {
+    local launcher=()
+    command -v ccache >/dev/null && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+    cmake -S . -B "$SANITIZER_BUILD_DIR" -G Ninja -DCMAKE_BUILD_TYPE=Release \
+        -DCMAKE_CXX_COMPILER=clang++ -DKS_BUILD_FUZZ=ON "${launcher[@]}" >/dev/null
+    cmake --build "$SANITIZER_BUILD_DIR" --parallel "$(nproc)"
+}
+
 has_display() {
     [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]
 }
@@ -79,7 +95,7 @@ run_workbench() {
 }
 
 run_tests() {
-    QT_QPA_PLATFORM=offscreen ctest --test-dir "$BUILD_DIR" --output-on-failure \
+    QT_QPA_PLATFORM=offscreen ctest --test-dir "$1" --output-on-failure \
         --parallel "$(nproc)" --timeout 600
 }
 
@@ -87,7 +103,7 @@ cmd=${1:-run}
 [ $# -gt 0 ] && shift
 case "$cmd" in
     run) build; run_workbench "$@" ;;
-    test) build; run_tests ;;
+    test) build; run_tests "$BUILD_DIR"; build_sanitized; run_tests "$SANITIZER_BUILD_DIR" ;;
     build) build ;;
     *) echo "usage: $0 run|test|build" >&2; exit 2 ;;
 esac

@@ -25,20 +25,6 @@ void printLine(const QString& text)
     std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
 }
 
-QString describe(const workbench::SettingsStore::Problem& p)
-{
-    QString text = QCoreApplication::translate(
-                       "main", "設定ファイル %1 を読み込めませんでした (%2)。既定値を使います。")
-                       .arg(QDir::toNativeSeparators(p.file), p.reason);
-    if (!p.backup.isEmpty())
-        text += QCoreApplication::translate("main", "\n元のファイルは %1 に退避しました。")
-                    .arg(QDir::toNativeSeparators(p.backup));
-    else
-        text += QCoreApplication::translate(
-            "main", "\n元のファイルを退避できなかったため、この設定は保存されません。");
-    return text;
-}
-
 // The language from --lang or the locale; false when --lang names one the workbench lacks.
 bool useLanguage(const QString& option)
 {
@@ -115,11 +101,12 @@ int main(int argc, char* argv[])
                                workbench::SettingsStore(settingsFolder));
     QStringList notices;
     for (const auto& problem : session.load())
-        notices << describe(problem);
+        notices << problem.message;
     if (parser.isSet(drawingOption)) {
-        QString error;
-        if (!session.openDrawing(parser.value(drawingOption), &error))
-            notices << QCoreApplication::translate("main", "図面を開けませんでした: %1").arg(error);
+        QString message;
+        session.openDrawing(parser.value(drawingOption), &message);
+        if (!message.isEmpty())
+            notices << message;
     }
     for (const QString& notice : notices)
         printLine(notice);

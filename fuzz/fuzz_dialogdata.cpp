@@ -1,5 +1,5 @@
 // dialogdata.xml as it may be found on disk: whatever the bytes, loading and saving the drawing
-// hatch never crash, and a file that cannot be read is never written.
+// hatch never crash, a file that cannot be read is never written, and a saved file is stable.
 #include "core/Application.h"
 #include "hatch/DrawingHatch.h"
 
@@ -56,9 +56,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             std::abort(); // a failed save wrote something
         return 0;
     }
-    // What was saved can be read back.
+    // What was saved can be read back, and saving it again changes nothing.
     ui::config::SDrawingHatch again;
     if (!again.loadDialogData())
+        std::abort();
+    const QByteArray once = readAll(host.file());
+    if (!saved.saveDialogData() || readAll(host.file()) != once)
         std::abort();
     return 0;
 }

@@ -8,8 +8,10 @@
 
 namespace kesto::workbench {
 
-// Opens a drawing file into an in-memory database; null with a message on failure.
-// Formats: DXF (.dxf) and the workbench's XML drawing (.xml, see docs/drawing-format.md).
-std::unique_ptr<CMemoryDataBase> openDrawing(const QString& path, QString* error);
+// Opens a drawing file into an in-memory database. Formats: DXF (.dxf) and the workbench's XML
+// drawing (.xml, see docs/drawing-format.md). Null when nothing of it could be read. What could
+// not be read (the file, the line and the reason) is in *message, also when the drawing opened
+// in part; message is empty when all of it was read.
+std::unique_ptr<CMemoryDataBase> openDrawing(const QString& path, QString* message);
 
 } // namespace kesto::workbench

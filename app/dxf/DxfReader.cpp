@@ -1,79 +1,80 @@
 #include "dxf/DxfReader.h"
 
 #include "dxf/DxfCollector.h"
-#include "dxf/DxfScan.h"
+#include "dxf/DxfStream.h"
 
+#include <QBuffer>
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
 #include <dl_dxf.h>
 
-#include <cstdio>
-#include <memory>
+#include <istream>
 
 namespace kesto::workbench::dxf {
 
 namespace {
 
-bool fail(QString* error, const QString& text)
+QString tr(const char* text)
 {
-    if (error)
-        *error = text;
-    return false;
+    return QCoreApplication::translate("kesto::workbench::dxf", text);
 }
 
-// The parser reads the checked text where it lies, through a memory stream (its stream reader
-// does not report the pairs it reads, its file reader does).
-bool parse(QByteArray& text, CDxfCollector& collector, QString* error)
+std::unique_ptr<CMemoryDataBase> read(QIODevice& source, const QString& title,
+                                      utility::CReadReport& report)
 {
-    const std::unique_ptr<FILE, int (*)(FILE*)> stream(
-        fmemopen(text.data(), static_cast<std::size_t>(text.size()), "r"), &std::fclose);
-    if (!stream)
-        return fail(error, QStringLiteral("the drawing could not be read from memory"));
+    if (source.peek(18) == "AutoCAD Binary DXF") {
+        report.refuse(tr("バイナリ DXF は読めません。ASCII DXF で保存し直してください"));
+        return nullptr;
+    }
+    CDxfCollector collector;
+    CDxfStreamBuf text(source, collector);
+    std::istream stream(&text);
     try {
         DL_Dxf parser;
-        while (parser.readDxfGroups(stream.get(), &collector)) {
-        }
+        parser.in(stream, &collector);
     } catch (const std::exception& e) {
-        return fail(error, QStringLiteral("the DXF parser failed: %1").arg(e.what()));
+        report.refuse(
+            tr("DXF の読み込みに失敗しました (%1)").arg(QString::fromLocal8Bit(e.what())));
+        return nullptr;
     }
-    return true;
-}
-
-} // namespace
-
-std::unique_ptr<CMemoryDataBase> readDxfText(QByteArray text, const QString& title, QString* error)
-{
-    if (!checkDxfText(text, error))
+    if (text.recordsGiven() == 0) {
+        report.refuse(text.stopReason(), text.stopLine());
         return nullptr;
-    CDxfCollector collector;
-    if (!parse(text, collector, error))
-        return nullptr;
+    }
+    if (!text.readToEnd())
+        report.stop(text.stopLine(), text.stopReason());
     auto db = std::make_unique<CMemoryDataBase>(title.toStdWString());
     collector.build(*db);
     return db;
 }
 
-std::unique_ptr<CMemoryDataBase> readDxfDrawing(const QString& path, QString* error)
+} // namespace
+
+std::unique_ptr<CMemoryDataBase> readDxfText(const QByteArray& text, const QString& title,
+                                             utility::CReadReport& report)
+{
+    QBuffer buffer;
+    buffer.setData(text);
+    buffer.open(QIODevice::ReadOnly);
+    return read(buffer, title, report);
+}
+
+std::unique_ptr<CMemoryDataBase> readDxfDrawing(const QString& path, utility::CReadReport& report)
 {
     QFile file(path);
-    const auto failWith = [&](const QString& reason) {
-        fail(error, QStringLiteral("%1: %2").arg(path, reason));
+    if (!file.open(QIODevice::ReadOnly)) {
+        report.refuse(tr("ファイルを開けません (%1)").arg(file.errorString()));
         return nullptr;
-    };
-    if (file.size() > kMaxDxfFileSize)
-        return failWith(
-            QStringLiteral("the file is larger than %1 MB").arg(kMaxDxfFileSize / (1024 * 1024)));
-    if (!file.open(QIODevice::ReadOnly))
-        return failWith(file.errorString());
-    QByteArray text = file.read(kMaxDxfFileSize + 1);
-    if (file.error() != QFileDevice::NoError)
-        return failWith(file.errorString());
-    QString reason;
-    auto db = readDxfText(std::move(text), QFileInfo(path).fileName(), &reason);
-    if (!db)
-        return failWith(reason);
-    return db;
+    }
+    if (file.size() > kMaxDxfFileSize) {
+        report.refuse(tr("ファイルが大きすぎます (%1 バイト。上限は %2 バイト)")
+                          .arg(file.size())
+                          .arg(kMaxDxfFileSize));
+        return nullptr;
+    }
+    return read(file, QFileInfo(path).fileName(), report);
 }
 
 } // namespace kesto::workbench::dxf

@@ -65,20 +65,31 @@ bool Session::openTopic(const Topic& topic, bool* changed, QString* error)
     for (const auto& setting : m_config->settings())
         before.push_back(setting->clone());
     const std::unique_ptr<ui::setting::CSettingBase> defaults = topic.makeDefault();
-    *changed = topic.open(*current, *defaults);
+    topic.open(*current, *defaults);
     bool saved = true;
     for (const auto& setting : m_config->settings()) {
         const bool unchanged = std::any_of(before.begin(), before.end(),
                                            [&](const auto& old) { return setting->equals(*old); });
-        if (!unchanged)
-            saved = m_store.save(*setting, error) && saved;
+        if (unchanged)
+            continue;
+        *changed = true;
+        QString reason;
+        if (m_store.save(*setting, &reason))
+            continue;
+        for (const auto& old : before) { // not saved: back to what its file holds
+            if (setting->assign(*old))
+                break;
+        }
+        if (saved && error)
+            *error = reason;
+        saved = false;
     }
     return saved;
 }
 
-bool Session::openDrawing(const QString& path, QString* error)
+bool Session::openDrawing(const QString& path, QString* message)
 {
-    std::unique_ptr<CMemoryDataBase> db = workbench::openDrawing(path, error);
+    std::unique_ptr<CMemoryDataBase> db = workbench::openDrawing(path, message);
     if (!db)
         return false;
     addStarterViews(*db);

@@ -33,11 +33,14 @@ public:
     const SettingsStore& store() const { return m_store; }
 
     // Runs the topic's dialog; every setting it changed (its own, and host tables such as the
-    // custom colours) is saved. False with error set when a change could not be saved (it
-    // stays in memory).
+    // custom colours) is saved, and changed says whether there was any. False with error set
+    // when a change could not be saved: that setting goes back to what it was, so what the
+    // workbench uses is what its files hold.
     bool openTopic(const Topic& topic, bool* changed, QString* error);
 
-    bool openDrawing(const QString& path, QString* error);
+    // False with message when nothing of the drawing could be read; true with message when it
+    // opened in part (message empty when all of it was read).
+    bool openDrawing(const QString& path, QString* message);
     void closeDrawing();
     const CMemoryDataBase* drawing() const { return m_drawing.get(); }
     CMemoryDataBase* drawing() { return m_drawing.get(); }

@@ -4,6 +4,7 @@
 #include "core/SystemConfig.h"
 #include "utility/Xml.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -11,57 +12,39 @@
 
 namespace kesto::workbench {
 
-SettingsStore::SettingsStore(QString folder)
-    : m_folder(std::move(folder))
-{}
+namespace {
 
-QString SettingsStore::fileOf(const ui::setting::CSettingBase& setting) const
+QString tr(const char* text)
 {
-    return QDir(m_folder).filePath(setting.xmlRootName() + QStringLiteral(".xml"));
+    return QCoreApplication::translate("kesto::workbench::SettingsStore", text);
 }
 
-std::vector<SettingsStore::Problem>
-SettingsStore::loadAll(const std::vector<SettingFactory>& factories, core::CSystemConfig& config)
+QString shown(const QString& file)
 {
-    std::vector<Problem> problems;
-    for (const SettingFactory& makeDefault : factories) {
-        std::unique_ptr<ui::setting::CSettingBase> setting = makeDefault();
-        const QString file = fileOf(*setting);
-        if (QFileInfo::exists(file)) {
-            QString reason;
-            if (!setting->loadXML(file.toStdWString(), &reason)) {
-                problems.push_back(setAside(file, reason));
-                setting = makeDefault();
-            }
-        }
-        config.putSetting(std::move(setting));
-    }
-    return problems;
+    return QDir::toNativeSeparators(file);
 }
 
-SettingsStore::Problem SettingsStore::setAside(const QString& file, const QString& reason)
+QString settingProblem(const QString& file, const utility::CReadReport& report)
+{
+    const QString what =
+        report.isRefused()
+            ? tr("設定ファイル %1 を読み込めませんでした。この設定は既定値を使います。")
+            : tr("設定ファイル %1 "
+                 "の一部を読み込めませんでした。読めた値を使い、残りは既定値にします。");
+    return what.arg(shown(file)) + u'\n' + report.details() + u'\n'
+           + tr("この設定を次に保存する前に、元のファイルを %1.bak-日時 として残します。")
+                 .arg(QFileInfo(file).fileName());
+}
+
+// A free name beside the file: NAME.xml.bak-DATE, with -2, -3 ... when it is taken.
+QString backupName(const QString& file)
 {
     const QString stamp = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
-    const QString backup = file + QStringLiteral(".broken-") + stamp;
-    if (QFile::rename(file, backup))
-        return {file, reason, backup};
-    m_blocked.insert(file);
-    return {file, reason, QString()};
+    QString name = file + QStringLiteral(".bak-") + stamp;
+    for (int n = 2; QFileInfo::exists(name); ++n)
+        name = file + QStringLiteral(".bak-") + stamp + u'-' + QString::number(n);
+    return name;
 }
-
-bool SettingsStore::save(const ui::setting::CSettingBase& setting, QString* error)
-{
-    const QString file = fileOf(setting);
-    if (m_blocked.contains(file)) {
-        if (error)
-            *error = QStringLiteral("読み込めなかった %1 を退避できなかったため、上書きしません。")
-                         .arg(file);
-        return false;
-    }
-    return setting.saveXML(file.toStdWString(), error);
-}
-
-namespace {
 
 // An empty store of remembered dialog data; a file that appeared meanwhile is left alone.
 bool createDialogData(const QString& file, QString* error)
@@ -82,28 +65,104 @@ bool createDialogData(const QString& file, QString* error)
 
 } // namespace
 
+SettingsStore::SettingsStore(QString folder)
+    : m_folder(std::move(folder))
+{}
+
+QString SettingsStore::fileOf(const ui::setting::CSettingBase& setting) const
+{
+    return QDir(m_folder).filePath(setting.xmlRootName() + QStringLiteral(".xml"));
+}
+
+std::vector<SettingsStore::Problem>
+SettingsStore::loadAll(const std::vector<SettingFactory>& factories, core::CSystemConfig& config)
+{
+    std::vector<Problem> problems;
+    for (const SettingFactory& makeDefault : factories) {
+        std::unique_ptr<ui::setting::CSettingBase> setting = makeDefault();
+        const QString file = fileOf(*setting);
+        if (QFileInfo::exists(file)) {
+            utility::CReadReport report;
+            setting->readXML(file.toStdWString(), report);
+            if (!report.isComplete()) {
+                problems.push_back({file, settingProblem(file, report)});
+                m_partlyRead.insert(file);
+            }
+        }
+        config.putSetting(std::move(setting));
+    }
+    return problems;
+}
+
+// A file that was not read fully, or that no longer reads fully, is copied aside first.
+bool SettingsStore::keepOriginal(const QString& file, const ui::setting::CSettingBase& setting,
+                                 QString* error) const
+{
+    if (!QFileInfo::exists(file))
+        return true;
+    if (!m_partlyRead.contains(file)) {
+        utility::CReadReport report;
+        setting.clone()->readXML(file.toStdWString(), report);
+        if (report.isComplete())
+            return true;
+    }
+    const QString backup = backupName(file);
+    if (QFile::copy(file, backup))
+        return true;
+    *error = tr("元のファイルを %1 に残せなかったため、上書きしませんでした。").arg(shown(backup));
+    return false;
+}
+
+bool SettingsStore::save(const ui::setting::CSettingBase& setting, QString* error)
+{
+    const QString file = fileOf(setting);
+    QString reason;
+    const bool saved = utility::xml::rewrite(
+        file,
+        [&](QDomDocument& doc) {
+            if (!keepOriginal(file, setting, &reason))
+                return false;
+            doc = setting.toXML();
+            return true;
+        },
+        &reason);
+    if (saved) {
+        m_partlyRead.remove(file);
+        return true;
+    }
+    if (error)
+        *error = tr("設定ファイル %1 を保存できませんでした。%2\nフォルダの書き込み権限と空き容量を"
+                    "確かめるか、--settings で別の設定フォルダを指定してください。")
+                     .arg(shown(file), reason);
+    return false;
+}
+
 std::optional<SettingsStore::Problem> SettingsStore::prepareDialogData()
 {
     const QString file =
         QDir(m_folder).filePath(QString::fromWCharArray(ui::config::dialogdata::kFileName));
-    QString reason;
-    if (QFileInfo::exists(file)) {
-        QDomDocument doc;
-        QDomElement root;
-        if (utility::xml::load(doc, file.toStdWString(), false, ui::config::dialogdata::kMaxBytes,
-                               &reason)
-            && utility::xml::getRootElement(root, doc))
+    if (!QFileInfo::exists(file)) {
+        QString reason;
+        if (createDialogData(file, &reason))
             return std::nullopt;
-        if (reason.isEmpty())
-            reason = QStringLiteral("the file has no root element");
-        Problem problem = setAside(file, reason);
-        if (!problem.backup.isEmpty() && !createDialogData(file, &reason))
-            problem.reason += QStringLiteral("; a new file could not be written: ") + reason;
-        return problem;
+        return Problem{file,
+                       tr("ダイアログの記憶ファイル %1 を作れませんでした (%2)。ダイアログは"
+                          "前回の値を覚えません。設定フォルダの書き込み権限を確かめてください。")
+                           .arg(shown(file), reason)};
     }
-    if (createDialogData(file, &reason))
+    QDomDocument doc;
+    utility::xml::SLimits limits =
+        utility::xml::SLimits::forSize(ui::config::dialogdata::kMaxBytes);
+    utility::CReadReport report = utility::xml::readDocument(doc, file, limits);
+    if (report.isComplete() && doc.documentElement().isNull())
+        report.refuse(tr("ルート要素がありません"));
+    if (report.isComplete())
         return std::nullopt;
-    return Problem{file, QStringLiteral("could not be created: ") + reason, QString()};
+    return Problem{file,
+                   tr("ダイアログの記憶ファイル %1 を読み込めません。\n%2\nファイルはそのまま"
+                      "残し、ダイアログは前回の値を読まず、このファイルに書きもしません。直すか"
+                      "別の名前に変えてから、ワークベンチを起動し直してください。")
+                       .arg(shown(file), report.details())};
 }
 
 } // namespace kesto::workbench

@@ -15,12 +15,14 @@ class CSystemConfig;
 namespace kesto::workbench {
 
 // The workbench's settings folder: one XML file per setting, named after its root element.
+// Reading never changes or moves a file. A file that cannot be read fully is reported once, with
+// its lines and reasons; what could be read is used and the rest comes from the defaults. Before
+// the first save over such a file, its bytes are copied to NAME.xml.bak-DATE.
 class SettingsStore {
 public:
     struct Problem {
         QString file;
-        QString reason;
-        QString backup; // where the unreadable file was moved; empty when it could not be
+        QString message; // for the user, naming the file and what happens to it
     };
 
     explicit SettingsStore(QString folder);
@@ -28,23 +30,26 @@ public:
     const QString& folder() const { return m_folder; }
     QString fileOf(const ui::setting::CSettingBase& setting) const;
 
-    // Puts every setting into the configuration: from its file when there is one, else the
-    // built-in defaults. An unreadable file is moved aside and reported.
+    // Puts every setting into the configuration: what its file holds, the rest from the
+    // built-in defaults.
     std::vector<Problem> loadAll(const std::vector<SettingFactory>& factories,
                                  core::CSystemConfig& config);
 
     // Creates dialogdata.xml with its root element when it is missing. An existing file is
-    // never written over: an unreadable one is moved aside (and replaced) and reported.
+    // only read: one that cannot be read is reported and left as it is (the dialogs then
+    // neither read nor write it).
     std::optional<Problem> prepareDialogData();
 
-    // Writes atomically; refuses a file that was unreadable and could not be moved aside.
+    // Writes the setting's file under its lock, atomically, keeping the original of a file
+    // that was not read fully first. False with error (the file, the reason and what to do).
     bool save(const ui::setting::CSettingBase& setting, QString* error);
 
 private:
-    Problem setAside(const QString& file, const QString& reason);
+    bool keepOriginal(const QString& file, const ui::setting::CSettingBase& setting,
+                      QString* error) const;
 
     QString m_folder;
-    QSet<QString> m_blocked;
+    QSet<QString> m_partlyRead; // files to copy aside before they are first written
 };
 
 } // namespace kesto::workbench

@@ -7,6 +7,7 @@
 #include "core/Application.h"
 #include "element/KsCrossSectionView.h"
 #include "element/KsViewPort.h"
+#include "framework/MessageBox.h"
 #include "setting/ShortCutSetting.h"
 
 #include <QAction>
@@ -16,7 +17,6 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QStatusBar>
@@ -140,7 +140,12 @@ void WorkbenchWindow::openTopic(const Topic& topic)
     bool changed = false;
     QString error;
     if (!m_session.openTopic(topic, &changed, &error)) {
-        QMessageBox::warning(this, topic.title, tr("設定を保存できませんでした。\n%1").arg(error));
+        ui::framework::MessageBox(
+            this,
+            tr("「%1」の変更を保存できなかったため、変更前の設定に戻しました。\n%2")
+                .arg(topic.title, error),
+            topic.title);
+        applyShortCuts();
         return;
     }
     statusBar()->showMessage(changed ? tr("「%1」を保存しました。").arg(topic.title)
@@ -210,9 +215,10 @@ void WorkbenchWindow::chooseDrawing()
 
 void WorkbenchWindow::openDrawing(const QString& path)
 {
-    QString error;
-    if (!m_session.openDrawing(path, &error))
-        QMessageBox::warning(this, tr("図面を開く"), tr("図面を開けませんでした。\n%1").arg(error));
+    QString message;
+    m_session.openDrawing(path, &message);
+    if (!message.isEmpty())
+        ui::framework::MessageBox(this, message, tr("図面を開く"));
     showDrawingState();
 }
 

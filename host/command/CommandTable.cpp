@@ -51,7 +51,7 @@ QString readCommand(const QDomElement& e, int group, SCommand& command)
     command.name = e.attribute(QStringLiteral("name")).toStdWString();
     const QString where = QStringLiteral("command %1 (line %2)")
                               .arg(QString::fromStdWString(command.id))
-                              .arg(e.lineNumber());
+                              .arg(xml::lineOf(e));
     if (!xml::readIntAttribute(e, QStringLiteral("number"), command.number))
         return where + QStringLiteral(": no number");
     if (!readKeys(e.attribute(QStringLiteral("keys")), command.defaultKeys))
@@ -92,7 +92,7 @@ bool CCommandTable::loadXMLNode(const QDomElement& root, QString* error)
             if (problem.isEmpty() && !table.addCommand(command))
                 problem = QStringLiteral("command %1 (line %2): empty, or number or id repeated")
                               .arg(QString::fromStdWString(command.id))
-                              .arg(c.lineNumber());
+                              .arg(xml::lineOf(c));
             if (!problem.isEmpty()) {
                 setError(error, problem);
                 return false;

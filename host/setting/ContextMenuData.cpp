@@ -138,8 +138,11 @@ bool CContextMenuData::loadXMLNode(const QDomElement& element)
             item.breakBefore = e.attribute(QStringLiteral("break")) == u"1";
             utility::xml::readIntAttribute(e, QStringLiteral("number"), item.commandNumber);
             utility::xml::readIntAttribute(e, QStringLiteral("style"), item.style);
-            if (item.id.empty())
+            if (item.id.empty()) {
+                if (utility::xml::skipEntry(e))
+                    continue;
                 return false;
+            }
         } else {
             continue;
         }

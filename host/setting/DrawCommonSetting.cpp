@@ -38,21 +38,46 @@ bool CDrawCommonSetting::isSame(const CDrawCommonSetting& o) const
 bool CDrawCommonSetting::loadXMLNode(const QDomElement& element)
 {
     using namespace utility::xml;
-    CDrawCommonSetting read;
-    const QDomElement color = element.firstChildElement(QStringLiteral("Color"));
-    const QDomElement lineType = element.firstChildElement(QStringLiteral("LineType"));
-    const QDomElement width = element.firstChildElement(QStringLiteral("LineWidth"));
-    const QDomElement ends = element.firstChildElement(QStringLiteral("LineEnds"));
-    if (color.isNull() || lineType.isNull() || width.isNull() || ends.isNull()
-        || !readIntAttribute(color, QStringLiteral("mode"), read.m_colorMode)
-        || !readColor(color, read.m_color)
-        || !readIntAttribute(lineType, QStringLiteral("mode"), read.m_lineTypeMode)
-        || !readDoubleAttribute(width, QStringLiteral("value"), read.m_width)
-        || !readIntAttribute(width, QStringLiteral("kind"), read.m_widthKind) || read.m_width < 0)
+    CDrawCommonSetting read = *this;
+    // Each part on its own: one that cannot be read is skipped when entries may be.
+    const auto part = [&element](const char* tag, const auto& readPart) {
+        const QDomElement e = element.firstChildElement(QLatin1String(tag));
+        return (!e.isNull() && readPart(e)) || skipEntry(e);
+    };
+    const bool ok =
+        part("Color",
+             [&](const QDomElement& e) {
+                 int mode = 0;
+                 KsColor color;
+                 if (!readIntAttribute(e, QStringLiteral("mode"), mode) || !readColor(e, color))
+                     return false;
+                 read.m_colorMode = mode;
+                 read.m_color = color;
+                 return true;
+             })
+        && part("LineType",
+                [&](const QDomElement& e) {
+                    read.m_lineTypeName = e.attribute(QStringLiteral("name")).toStdWString();
+                    return readIntAttribute(e, QStringLiteral("mode"), read.m_lineTypeMode);
+                })
+        && part("LineWidth",
+                [&](const QDomElement& e) {
+                    double width = 0;
+                    int kind = 0;
+                    if (!readDoubleAttribute(e, QStringLiteral("value"), width) || width < 0
+                        || !readIntAttribute(e, QStringLiteral("kind"), kind))
+                        return false;
+                    read.m_width = width;
+                    read.m_widthKind = kind;
+                    return true;
+                })
+        && part("LineEnds", [&](const QDomElement& e) {
+               read.m_startLineEnd = e.attribute(QStringLiteral("start")).toStdWString();
+               read.m_endLineEnd = e.attribute(QStringLiteral("end")).toStdWString();
+               return true;
+           });
+    if (!ok)
         return false;
-    read.m_lineTypeName = lineType.attribute(QStringLiteral("name")).toStdWString();
-    read.m_startLineEnd = ends.attribute(QStringLiteral("start")).toStdWString();
-    read.m_endLineEnd = ends.attribute(QStringLiteral("end")).toStdWString();
     read.m_virtualElement =
         element.firstChildElement(QStringLiteral("VirtualElement")).attribute(QStringLiteral("on"))
         == u"1";

@@ -51,6 +51,7 @@ bool CLineEndSetting::loadXMLNode(const QDomElement& element)
 {
     using namespace utility::xml;
     std::vector<SLineEnd> ends;
+    std::set<std::pair<int, std::wstring>> names;
     for (QDomElement e = element.firstChildElement(QStringLiteral("LineEnd")); !e.isNull();
          e = e.nextSiblingElement(QStringLiteral("LineEnd"))) {
         SLineEnd end;
@@ -60,8 +61,12 @@ bool CLineEndSetting::loadXMLNode(const QDomElement& element)
             || !readDoubleAttribute(e, QStringLiteral("size2"), end.size2)
             || !readIntAttribute(e, QStringLiteral("scaling"), end.scalingKind)
             || !readIntAttribute(e, QStringLiteral("category"), end.category) || end.size1 < 0
-            || end.size2 < 0)
+            || end.size2 < 0 || end.name.empty()
+            || !names.insert({end.category, end.name}).second) {
+            if (skipEntry(e))
+                continue;
             return false;
+        }
         ends.push_back(end);
     }
     return setLineEnds(ends);

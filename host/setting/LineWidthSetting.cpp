@@ -120,14 +120,17 @@ bool CLineWidthSetting::loadXMLNode(const QDomElement& element)
     for (QDomElement e = element.firstChildElement(widthTag()); !e.isNull();
          e = e.nextSiblingElement(widthTag())) {
         SLineWidth entry;
-        if (!readEntry(e, entry))
+        if (!readEntry(e, entry)) {
+            if (utility::xml::skipEntry(e))
+                continue;
             return false;
+        }
         widths.push_back(std::move(entry));
     }
-    SLineWidth choices[3];
+    SLineWidth choices[3] = {m_thin, m_bold, m_extraBold};
     for (int i = 0; i < 3; ++i) {
         const QDomElement e = element.firstChildElement(QString::fromLatin1(kChoiceTags[i]));
-        if (e.isNull() || !readEntry(e, choices[i]))
+        if ((e.isNull() || !readEntry(e, choices[i])) && !utility::xml::skipEntry(e))
             return false;
     }
     m_widths = std::move(widths);

@@ -203,8 +203,11 @@ bool CMouseSetting::loadXMLNode(const QDomElement& element)
         SMouseSetting view;
         const bool repeated =
             std::any_of(views.begin(), views.end(), [&](const auto& v) { return v.first == name; });
-        if (name.empty() || repeated || !readView(e, view))
+        if (name.empty() || repeated || !readView(e, view)) {
+            if (utility::xml::skipEntry(e))
+                continue;
             return false;
+        }
         views.emplace_back(name, std::move(view));
     }
     m_views = std::move(views);

@@ -2,7 +2,10 @@
 
 #include <QDomDocument>
 #include <QString>
-#include <QXmlStreamReader>
+
+namespace kesto::utility {
+class CReadReport;
+}
 
 #include <memory>
 #include <string>
@@ -22,12 +25,18 @@ public:
     // Same class and isSame.
     virtual bool equals(const CSettingBase& other) const = 0;
 
-    // Reads the whole setting from its element; on false the setting is unchanged.
+    // Reads the whole setting from its element; on false the setting is unchanged. Inside a
+    // utility::xml::CSkipBadEntries an entry that cannot be read is skipped instead.
     virtual bool loadXMLNode(const QDomElement& element) = 0;
     virtual void saveXMLNode(QDomDocument& doc, QDomElement& element) const = 0;
 
-    // File form; loading is all-or-nothing, saving is atomic.
+    // File form. loadXML is all or nothing. readXML uses what it can: entries that cannot be
+    // read are skipped, a file that ends early gives what came before; it is false (the setting
+    // unchanged) only when nothing of the file could be used. Either way report says what was
+    // not read. Saving is a read-modify-write under the file's lock, written atomically.
     bool loadXML(const std::wstring& path, QString* error = nullptr);
+    bool readXML(const std::wstring& path, utility::CReadReport& report);
+    QDomDocument toXML() const;
     bool saveXML(const std::wstring& path, QString* error = nullptr) const;
 
 protected:
@@ -35,16 +44,8 @@ protected:
     CSettingBase(const CSettingBase&) = default;
     CSettingBase& operator=(const CSettingBase&) = default;
 
-    // A setting whose files grow large reads them as a stream, one item at a time, instead of
-    // as one document: reader stands on the root element (its name checked). False when the
-    // contents are malformed; the setting is then unchanged. What is read is taken only after
-    // readToEnd has found the rest of the document well formed.
-    virtual bool readsXMLAsStream() const { return false; }
-    virtual bool loadXMLStream(QXmlStreamReader& reader);
-    static bool readToEnd(QXmlStreamReader& reader);
-
 private:
-    bool loadXMLStreamFile(const std::wstring& path, QString* error);
+    bool read(const std::wstring& path, utility::CReadReport& report, bool skipBadEntries);
 };
 
 // clone and assign for a concrete setting class.

@@ -146,11 +146,12 @@ bool CShortCutSetting::loadXMLNode(const QDomElement& element)
     for (QDomElement e = element.firstChildElement(itemTag()); !e.isNull();
          e = e.nextSiblingElement(itemTag())) {
         SShortCut item;
-        if (!readItem(e, item))
+        if (!readItem(e, item) || taken.contains(item.flags << 16 | item.key)) {
+            if (utility::xml::skipEntry(e))
+                continue;
             return false;
+        }
         const int keyCode = item.flags << 16 | item.key;
-        if (taken.contains(keyCode))
-            return false;
         taken.insert(keyCode);
         items.push_back(std::move(item));
     }

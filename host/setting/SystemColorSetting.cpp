@@ -1,5 +1,7 @@
 #include "setting/SystemColorSetting.h"
 
+#include "utility/Xml.h"
+
 #include <set>
 
 #include <algorithm>
@@ -50,13 +52,18 @@ bool CSystemColorSetting::setColors(const std::vector<KsColor>& colors)
 bool CSystemColorSetting::loadXMLNode(const QDomElement& element)
 {
     std::vector<KsColor> colors;
+    std::set<std::wstring> names;
     for (QDomElement e = element.firstChildElement(QStringLiteral("Color")); !e.isNull();
          e = e.nextSiblingElement(QStringLiteral("Color"))) {
         std::uint32_t rgb = 0;
-        if (!KsColor::readRgbText(e.attribute(QStringLiteral("rgb")), rgb))
+        const std::wstring name = e.attribute(QStringLiteral("name")).toStdWString();
+        if (!KsColor::readRgbText(e.attribute(QStringLiteral("rgb")), rgb) || name.empty()
+            || !names.insert(name).second) {
+            if (utility::xml::skipEntry(e))
+                continue;
             return false;
-        colors.emplace_back(rgb, KsColor::System,
-                            e.attribute(QStringLiteral("name")).toStdWString());
+        }
+        colors.emplace_back(rgb, KsColor::System, name);
     }
     return setColors(colors);
 }
@@ -93,8 +100,11 @@ bool CColorSetting::loadXMLNode(const QDomElement& element)
     for (QDomElement e = element.firstChildElement(QStringLiteral("CustomColor")); !e.isNull();
          e = e.nextSiblingElement(QStringLiteral("CustomColor"))) {
         std::uint32_t rgb = 0;
-        if (!KsColor::readRgbText(e.attribute(QStringLiteral("rgb")), rgb))
+        if (!KsColor::readRgbText(e.attribute(QStringLiteral("rgb")), rgb)) {
+            if (utility::xml::skipEntry(e))
+                continue;
             return false;
+        }
         colors.push_back(rgb);
     }
     setCustomColors(colors);

@@ -1,13 +1,10 @@
 #include "setting/SystemHatchingSetting.h"
 
 #include "setting/HatchXml.h"
+#include "utility/Xml.h"
 
 #include <algorithm>
-#include <array>
-#include <iterator>
-#include <string_view>
-#include <unordered_set>
-#include <utility>
+#include <set>
 
 namespace kesto::ui::setting {
 
@@ -21,17 +18,10 @@ const T* findNamed(const std::vector<T>& list, const std::wstring& name)
     return it == list.end() ? nullptr : &*it;
 }
 
-bool inUnitSquare(const SBaseFigure::Segment& s)
-{
-    const auto unit = [](double v) { return v >= 0.0 && v <= 1.0; };
-    return unit(s.x1) && unit(s.y1) && unit(s.x2) && unit(s.y2);
-}
-
 template <class T>
 bool namesAreValid(const std::vector<T>& list)
 {
-    std::unordered_set<std::wstring_view> names;
-    names.reserve(list.size());
+    std::set<std::wstring> names;
     for (const T& item : list) {
         if (item.name.empty() || !names.insert(item.name).second)
             return false;
@@ -39,11 +29,10 @@ bool namesAreValid(const std::vector<T>& list)
     return true;
 }
 
-bool baseFiguresAreValid(const std::vector<SBaseFigure>& figures)
+bool inUnitSquare(const SBaseFigure::Segment& s)
 {
-    return namesAreValid(figures) && std::all_of(figures.begin(), figures.end(), [](const auto& f) {
-               return std::all_of(f.segments.begin(), f.segments.end(), inUnitSquare);
-           });
+    const auto unit = [](double v) { return v >= 0.0 && v <= 1.0; };
+    return unit(s.x1) && unit(s.y1) && unit(s.x2) && unit(s.y2);
 }
 
 void saveBaseFigure(QDomDocument& doc, QDomElement& parent, const SBaseFigure& figure)
@@ -89,75 +78,22 @@ void savePatterns(QDomDocument& doc, QDomElement& root, const QString& listName,
         pattern.saveXMLNode(list, doc);
 }
 
-} // namespace
-
-// The lists as they are read, before any of it is taken. Each item starts from its defaults and
-// is read where it stays.
-struct SReadLists {
-    std::vector<SBaseFigure> figures;
-    std::vector<SFigurePattern> figurePatterns;
-    std::vector<SSlantPattern> slantPatterns;
-    std::vector<SCoatingPattern> coatingPatterns;
-
-    bool namesAreValid() const
-    {
-        return baseFiguresAreValid(figures) && setting::namesAreValid(figurePatterns)
-               && setting::namesAreValid(slantPatterns) && setting::namesAreValid(coatingPatterns);
-    }
-};
-
-namespace {
-
-bool readFigure(SReadLists& lists, const QDomElement& e)
+// Each pattern starts from its defaults; one without a name of its own is not read.
+template <class Pattern>
+bool loadPatterns(const QDomElement& root, const QString& listName, std::vector<Pattern>& out)
 {
-    return loadBaseFigure(e, lists.figures.emplace_back());
-}
-
-template <class Pattern, std::vector<Pattern> SReadLists::*list>
-bool readPattern(SReadLists& lists, const QDomElement& e)
-{
-    return (lists.*list).emplace_back().loadXMLNode(e, nullptr);
-}
-
-// A list of the file, the elements of its items and how one is read. Other elements are left
-// out, as are a list's second and later elements.
-struct SListForm {
-    QLatin1String list;
-    QLatin1String item;
-    bool (*read)(SReadLists&, const QDomElement&);
-};
-
-const SListForm kListForms[] = {
-    {QLatin1String("BaseFigures"), QLatin1String("BaseFigure"), readFigure},
-    {QLatin1String("FigurePatterns"), QLatin1String("FigurePattern"),
-     readPattern<SFigurePattern, &SReadLists::figurePatterns>},
-    {QLatin1String("SlantPatterns"), QLatin1String("SlantPattern"),
-     readPattern<SSlantPattern, &SReadLists::slantPatterns>},
-    {QLatin1String("CoatingPatterns"), QLatin1String("CoatingPattern"),
-     readPattern<SCoatingPattern, &SReadLists::coatingPatterns>},
-};
-
-// The element the reader stands on, with its attributes and child elements, as an element of
-// doc (not inserted into it, so it is gone with its last handle).
-QDomElement copyElement(QXmlStreamReader& reader, QDomDocument& doc)
-{
-    QDomElement element = doc.createElement(reader.name().toString());
-    for (const QXmlStreamAttribute& attribute : reader.attributes())
-        element.setAttribute(attribute.name().toString(), attribute.value().toString());
-    while (reader.readNextStartElement())
-        element.appendChild(copyElement(reader, doc));
-    return element;
-}
-
-// The items of the list element the reader stands on, each copied, read and dropped in turn.
-bool streamList(QXmlStreamReader& reader, const SListForm& form, SReadLists& lists)
-{
-    QDomDocument doc;
-    while (reader.readNextStartElement()) {
-        if (reader.name() != form.item)
-            reader.skipCurrentElement();
-        else if (!form.read(lists, copyElement(reader, doc)))
+    const QString tag = Pattern().getNodeName();
+    const QDomElement list = root.firstChildElement(listName);
+    std::set<std::wstring> names;
+    for (QDomElement e = list.firstChildElement(tag); !e.isNull(); e = e.nextSiblingElement(tag)) {
+        Pattern pattern;
+        if (!pattern.loadXMLNode(e, nullptr) || pattern.name.empty()
+            || !names.insert(pattern.name).second) {
+            if (utility::xml::skipEntry(e))
+                continue;
             return false;
+        }
+        out.push_back(pattern);
     }
     return true;
 }
@@ -186,7 +122,11 @@ const SCoatingPattern* CSystemHatchingSetting::findCoatingPattern(const std::wst
 
 bool CSystemHatchingSetting::setBaseFigures(const std::vector<SBaseFigure>& figures)
 {
-    if (!baseFiguresAreValid(figures))
+    for (const SBaseFigure& figure : figures) {
+        if (!std::all_of(figure.segments.begin(), figure.segments.end(), inUnitSquare))
+            return false;
+    }
+    if (!namesAreValid(figures))
         return false;
     m_baseFigures = figures;
     return true;
@@ -225,49 +165,31 @@ bool CSystemHatchingSetting::isSame(const CSystemHatchingSetting& other) const
 
 bool CSystemHatchingSetting::loadXMLNode(const QDomElement& element)
 {
-    SReadLists lists;
-    for (const SListForm& form : kListForms) {
-        const QString tag = form.item;
-        const QDomElement list = element.firstChildElement(form.list);
-        for (QDomElement e = list.firstChildElement(tag); !e.isNull();
-             e = e.nextSiblingElement(tag)) {
-            if (!form.read(lists, e))
-                return false;
-        }
-    }
-    return take(lists);
-}
-
-// Registries run to thousands of patterns: the file is read one item at a time, so that time and
-// memory grow with the file and no faster.
-bool CSystemHatchingSetting::loadXMLStream(QXmlStreamReader& reader)
-{
-    SReadLists lists;
-    std::array<bool, std::size(kListForms)> seen{};
-    while (reader.readNextStartElement()) {
-        const auto form = std::find_if(std::begin(kListForms), std::end(kListForms),
-                                       [&](const SListForm& f) { return reader.name() == f.list; });
-        const auto index = static_cast<std::size_t>(form - std::begin(kListForms));
-        if (form == std::end(kListForms) || seen[index]) {
-            reader.skipCurrentElement();
-            continue;
-        }
-        seen[index] = true;
-        if (!streamList(reader, *form, lists))
+    std::vector<SBaseFigure> figures;
+    std::set<std::wstring> names;
+    const QDomElement figureList = element.firstChildElement(QStringLiteral("BaseFigures"));
+    for (QDomElement e = figureList.firstChildElement(QStringLiteral("BaseFigure")); !e.isNull();
+         e = e.nextSiblingElement(QStringLiteral("BaseFigure"))) {
+        SBaseFigure figure;
+        if (!loadBaseFigure(e, figure) || figure.name.empty()
+            || !names.insert(figure.name).second) {
+            if (utility::xml::skipEntry(e))
+                continue;
             return false;
+        }
+        figures.push_back(std::move(figure));
     }
-    return readToEnd(reader) && take(lists);
-}
-
-// Taken only whole, and moved, not copied.
-bool CSystemHatchingSetting::take(SReadLists& lists)
-{
-    if (!lists.namesAreValid())
+    CSystemHatchingSetting read;
+    std::vector<SFigurePattern> figurePatterns;
+    std::vector<SSlantPattern> slantPatterns;
+    std::vector<SCoatingPattern> coatingPatterns;
+    if (!loadPatterns(element, QStringLiteral("FigurePatterns"), figurePatterns)
+        || !loadPatterns(element, QStringLiteral("SlantPatterns"), slantPatterns)
+        || !loadPatterns(element, QStringLiteral("CoatingPatterns"), coatingPatterns)
+        || !read.setBaseFigures(figures) || !read.setFigurePatterns(figurePatterns)
+        || !read.setSlantPatterns(slantPatterns) || !read.setCoatingPatterns(coatingPatterns))
         return false;
-    m_baseFigures = std::move(lists.figures);
-    m_figurePatterns = std::move(lists.figurePatterns);
-    m_slantPatterns = std::move(lists.slantPatterns);
-    m_coatingPatterns = std::move(lists.coatingPatterns);
+    *this = read;
     return true;
 }
 

@@ -25,9 +25,6 @@ struct SBaseFigure {
     bool operator==(const SBaseFigure& other) const = default;
 };
 
-// The registry's lists while its file is read.
-struct SReadLists;
-
 // The system's registry of hatching: base figures and named patterns of each kind. Names are
 // unique and not empty within a kind. Stored line types are kept as they were written; they
 // are settled against the line-type table when a pattern is taken into a drawing.
@@ -64,13 +61,7 @@ public:
     bool loadXMLNode(const QDomElement& element) override;
     void saveXMLNode(QDomDocument& doc, QDomElement& element) const override;
 
-protected:
-    bool readsXMLAsStream() const override { return true; }
-    bool loadXMLStream(QXmlStreamReader& reader) override;
-
 private:
-    bool take(SReadLists& lists);
-
     std::vector<SBaseFigure> m_baseFigures;
     std::vector<SFigurePattern> m_figurePatterns;
     std::vector<SSlantPattern> m_slantPatterns;

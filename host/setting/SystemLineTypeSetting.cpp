@@ -89,17 +89,23 @@ bool CSystemLineTypeSetting::setLineTypes(const std::vector<KsLineType>& lineTyp
 bool CSystemLineTypeSetting::loadXMLNode(const QDomElement& element)
 {
     std::vector<KsLineType> lineTypes;
+    std::set<int> ids;
+    std::set<std::wstring> names;
     for (QDomElement e = element.firstChildElement(tag()); !e.isNull();
          e = e.nextSiblingElement(tag())) {
         int id = 0;
         int kind = KsLineType::Solid;
         std::vector<double> dashes;
+        const std::wstring name = e.attribute(QStringLiteral("name")).toStdWString();
         if (!utility::xml::readIntAttribute(e, QStringLiteral("id"), id)
-            || !readDashes(e.attribute(QStringLiteral("dashes")), dashes))
+            || !readDashes(e.attribute(QStringLiteral("dashes")), dashes) || id <= 0 || name.empty()
+            || !ids.insert(id).second || !names.insert(name).second) {
+            if (utility::xml::skipEntry(e))
+                continue;
             return false;
+        }
         utility::xml::readIntAttribute(e, QStringLiteral("kind"), kind);
-        lineTypes.emplace_back(id, e.attribute(QStringLiteral("name")).toStdWString(), kind,
-                               dashes);
+        lineTypes.emplace_back(id, name, kind, dashes);
     }
     return setLineTypes(lineTypes);
 }

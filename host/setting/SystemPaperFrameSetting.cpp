@@ -102,8 +102,11 @@ bool CSystemPaperFrameSetting::loadXMLNode(const QDomElement& element)
     for (QDomElement e = element.firstChildElement(frameTag()); !e.isNull();
          e = e.nextSiblingElement(frameTag())) {
         SPaperFrame frame;
-        if (!readFrame(e, frame))
+        if (!readFrame(e, frame)) {
+            if (utility::xml::skipEntry(e))
+                continue;
             return false;
+        }
         frames.push_back(std::move(frame));
     }
     std::array<SFrameLineLook, FrameLineCount> looks = m_looks;
@@ -111,10 +114,13 @@ bool CSystemPaperFrameSetting::loadXMLNode(const QDomElement& element)
          e = e.nextSiblingElement(lineTag())) {
         const QString kind = e.attribute(QStringLiteral("kind"));
         for (int i = 0; i < FrameLineCount; ++i) {
-            if (kind == QLatin1String(kLineNames[i])
-                && (!xmlform::readColor(e, looks[i].color)
-                    || !xmlform::readLineType(e, looks[i].lineType)
-                    || !xmlform::readLineWidth(e, looks[i].lineWidth)))
+            SFrameLineLook read = looks[i];
+            if (kind != QLatin1String(kLineNames[i]))
+                continue;
+            if (xmlform::readColor(e, read.color) && xmlform::readLineType(e, read.lineType)
+                && xmlform::readLineWidth(e, read.lineWidth))
+                looks[i] = read;
+            else if (!utility::xml::skipEntry(e))
                 return false;
         }
     }

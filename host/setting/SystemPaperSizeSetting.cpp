@@ -63,8 +63,11 @@ bool CSystemPaperSizeSetting::loadXMLNode(const QDomElement& element)
         if (size.name.empty()
             || !utility::xml::readIntAttribute(e, QStringLiteral("height"), size.height)
             || !utility::xml::readIntAttribute(e, QStringLiteral("width"), size.width)
-            || size.height < 1 || size.width < 1)
+            || size.height < 1 || size.width < 1) {
+            if (utility::xml::skipEntry(e))
+                continue;
             return false;
+        }
         sizes.push_back(std::move(size));
     }
     m_sizes = std::move(sizes);

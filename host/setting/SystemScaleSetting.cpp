@@ -44,8 +44,11 @@ bool CSystemScaleSetting::loadXMLNode(const QDomElement& element)
         if (!utility::xml::readDoubleAttribute(e, QStringLiteral("numerator"), scale.numerator)
             || !utility::xml::readDoubleAttribute(e, QStringLiteral("denominator"),
                                                   scale.denominator)
-            || scale.numerator <= 0.0 || scale.denominator <= 0.0)
+            || scale.numerator <= 0.0 || scale.denominator <= 0.0) {
+            if (utility::xml::skipEntry(e))
+                continue;
             return false;
+        }
         scale.name = e.attribute(QStringLiteral("name")).toStdWString();
         if (scale.name.empty())
             scale.name = KsScale::makeName(scale.numerator, scale.denominator);

@@ -1,45 +1,28 @@
 #include "utility/Xml.h"
 
-#include <QFile>
-#include <QSaveFile>
-
 #include <cmath>
 
 namespace kesto::utility::xml {
 
-static void setError(QString* error, const QString& text)
+static bool finish(QDomDocument& doc, QDomDocument& read, const CReadReport& report, QString* error)
 {
-    if (error)
-        *error = text;
-}
-
-static bool parseCapped(QDomDocument& doc, const QByteArray& bytes, bool namespaceProcessing,
-                        qint64 maxBytes, QString* error)
-{
-    if (bytes.size() > maxBytes) {
-        setError(error, QStringLiteral("the file is larger than %1 bytes").arg(maxBytes));
+    if (!report.isComplete()) {
+        if (error)
+            *error = report.details();
         return false;
     }
-    if (bytes.contains("<!ENTITY")) {
-        setError(error, QStringLiteral("entity declarations are not accepted"));
-        return false;
-    }
-    QString message;
-    int line = 0;
-    int column = 0;
-    QDomDocument parsed;
-    if (!parsed.setContent(bytes, namespaceProcessing, &message, &line, &column)) {
-        setError(error,
-                 QStringLiteral("line %1, column %2: %3").arg(line).arg(column).arg(message));
-        return false;
-    }
-    doc = parsed;
+    doc = read;
     return true;
 }
 
 bool parse(QDomDocument& doc, const QByteArray& bytes, QString* error)
 {
-    return parseCapped(doc, bytes, false, kMaxDocumentBytes, error);
+    CReadReport report;
+    CReader reader;
+    QDomDocument read;
+    if (reader.open(bytes, report))
+        readDocument(read, reader);
+    return finish(doc, read, report, error);
 }
 
 bool load(QDomDocument& doc, const std::wstring& path, QString* error)
@@ -50,29 +33,16 @@ bool load(QDomDocument& doc, const std::wstring& path, QString* error)
 bool load(QDomDocument& doc, const std::wstring& path, bool namespaceProcessing, qint64 maxBytes,
           QString* error)
 {
-    QFile file(QString::fromStdWString(path));
-    if (!file.open(QIODevice::ReadOnly)) {
-        setError(error, file.errorString());
-        return false;
-    }
-    if (file.size() > maxBytes) {
-        setError(error, QStringLiteral("the file is larger than %1 bytes").arg(maxBytes));
-        return false;
-    }
-    return parseCapped(doc, file.read(maxBytes + 1), namespaceProcessing, maxBytes, error);
+    SLimits limits = SLimits::forSize(maxBytes);
+    limits.namespaceProcessing = namespaceProcessing;
+    QDomDocument read;
+    const CReadReport report = readDocument(read, QString::fromStdWString(path), limits);
+    return finish(doc, read, report, error);
 }
 
 bool save(const QDomDocument& doc, const std::wstring& path, QString* error)
 {
-    QByteArray bytes = doc.toByteArray(2);
-    if (!bytes.startsWith("<?xml"))
-        bytes.prepend("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n");
-    QSaveFile file(QString::fromStdWString(path));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
-        setError(error, file.errorString());
-        return false;
-    }
-    return true;
+    return saveFile(doc, QString::fromStdWString(path), error);
 }
 
 bool getRootElement(QDomElement& out, const QDomDocument& doc)

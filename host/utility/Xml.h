@@ -1,15 +1,17 @@
 #pragma once
 
+#include "utility/XmlReader.h"
+#include "utility/XmlWriter.h"
+
 #include <QDomDocument>
 #include <QString>
 
 #include <string>
 
-// DOM file access shared by every settings file. Files on disk are untrusted: loading caps the
-// size, refuses entity declarations and reports parse errors instead of guessing.
+// DOM file access shared by every settings file, over the host's one reader (XmlReader.h) and
+// writer (XmlWriter.h). These load all or nothing: a file that cannot be read fully is not
+// loaded, and error says where and why.
 namespace kesto::utility::xml {
-
-constexpr qint64 kMaxDocumentBytes = 64LL * 1024 * 1024;
 
 bool parse(QDomDocument& doc, const QByteArray& bytes, QString* error = nullptr);
 bool load(QDomDocument& doc, const std::wstring& path, QString* error = nullptr);
@@ -19,7 +21,7 @@ bool save(const QDomDocument& doc, const std::wstring& path, QString* error = nu
 
 bool getRootElement(QDomElement& out, const QDomDocument& doc);
 
-// Loads with QDomDocument's namespace processing switched by the flag, under a size cap.
+// Loads with namespace processing switched by the flag, under a size cap.
 bool load(QDomDocument& doc, const std::wstring& path, bool namespaceProcessing,
           qint64 maxBytes = kMaxDocumentBytes, QString* error = nullptr);
 

@@ -33,27 +33,6 @@ QString nameAttribute()
     return QString::fromLatin1(dialogdata::kRecordNameAttribute);
 }
 
-// The folder string ends in a separator; none is added.
-std::wstring dialogDataPath()
-{
-    const std::wstring folder = core::Application::getInstance()->getSettingFolder();
-    return folder.empty() ? std::wstring() : folder + dialogdata::kFileName;
-}
-
-// Loads the file and finds its root; never creates either.
-bool openDialogData(std::wstring& path, QDomDocument& doc, QDomElement& root)
-{
-    path = dialogDataPath();
-    return !path.empty() && xml::load(doc, path, false, dialogdata::kMaxBytes)
-           && xml::getRootElement(root, doc);
-}
-
-bool findRecord(QDomElement& out, const QDomDocument& doc)
-{
-    return xml::findByAttribute(out, doc.elementsByTagName(recordTag()), nameAttribute(),
-                                recordName());
-}
-
 } // namespace
 
 SDrawingHatch::SDrawingHatch() = default;
@@ -91,16 +70,9 @@ void SDrawingHatch::initByDefault()
 bool SDrawingHatch::saveDialogData() const
 {
     try {
-        std::wstring path;
-        QDomDocument doc;
-        QDomElement root;
-        if (!openDialogData(path, doc, root))
-            return false;
-        QDomElement previous;
-        // Only an element directly under the root is replaced; anything else is not ours.
-        if (findRecord(previous, doc) && root.removeChild(previous).isNull())
-            return false;
-        return saveXMLNode(root, doc) && xml::save(doc, path);
+        return dialogdata::saveRecord(recordName(), [this](QDomElement& root, QDomDocument& doc) {
+            return saveXMLNode(root, doc);
+        });
     } catch (...) {
         return false;
     }
@@ -109,11 +81,10 @@ bool SDrawingHatch::saveDialogData() const
 bool SDrawingHatch::loadDialogData()
 {
     try {
-        std::wstring path;
         QDomDocument doc;
         QDomElement root;
         QDomElement record;
-        if (!openDialogData(path, doc, root) || !findRecord(record, doc))
+        if (!dialogdata::load(doc, root) || !dialogdata::findRecord(record, doc, recordName()))
             return false;
         const core::CSystemConfig* config = core::Application::getInstance()->getSystemConfig();
         const auto* lineTypes =

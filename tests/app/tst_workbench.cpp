@@ -1,5 +1,6 @@
-// The workbench: settings kept in its folder across restarts, unreadable files set aside,
-// drawings opened from files, and dialogs rendered to PNG without a display.
+// The workbench: settings kept in its folder across restarts, files that cannot be read fully
+// used in part and kept, failed saves told and undone, drawings opened from files, and dialogs
+// rendered to PNG without a display.
 #include "WorkbenchFixture.h"
 #include "support/TestSupport.h"
 
@@ -7,6 +8,7 @@
 #include "session/Session.h"
 #include "session/SettingsFolder.h"
 #include "window/Screenshots.h"
+#include "window/WorkbenchWindow.h"
 
 #include "control/KsListCtrl.h"
 #include "element/KsCrossSectionView.h"
@@ -27,7 +29,11 @@
 #include <QFileInfo>
 #include <QImage>
 #include <QSet>
+#include <QStatusBar>
+#include <QTemporaryDir>
 #include <QTest>
+
+#include <functional>
 
 using namespace kesto;
 using namespace kesto::workbench;
@@ -53,12 +59,15 @@ QStringList scaleNames(const CSystemScaleSetting& setting)
     return out;
 }
 
-void addScaleOf300(CKsDialog& d)
+// A driver that adds the scale 1/denominator and confirms.
+std::function<void(CKsDialog&)> addScale(int denominator)
 {
-    QVERIFY(test::click(d, 7501));
-    auto* list = d.dlgItem<ui::control::CKsListCtrl>(7062);
-    list->commitCellText(list->getRowCount() - 1, 2, QStringLiteral("300"));
-    QVERIFY(test::click(d, 1));
+    return [denominator](CKsDialog& d) {
+        QVERIFY(test::click(d, 7501));
+        auto* list = d.dlgItem<ui::control::CKsListCtrl>(7062);
+        list->commitCellText(list->getRowCount() - 1, 2, QString::number(denominator));
+        QVERIFY(test::click(d, 1));
+    };
 }
 
 QString dxfDrawing()
@@ -129,7 +138,7 @@ private slots:
             QVERIFY(!changed);
             QVERIFY(!QFile::exists(file));
 
-            drivers.add(addScaleOf300);
+            drivers.add(addScale(300));
             QVERIFY(bench.session.openTopic(bench.scaleTopic(), &changed, &error));
             QVERIFY(changed);
             QVERIFY(QFile::exists(file));
@@ -138,28 +147,121 @@ private slots:
         QCOMPARE(scaleNames(restarted.scales()).last(), QStringLiteral("1/300"));
     }
 
-    void anUnreadableSettingsFileIsSetAsideAndReported()
+    // Reading never changes a file; what could be read is used, the rest comes from the
+    // defaults, and the first save keeps the original bytes beside the file.
+    void settingsFilesThatCannotBeReadFullyAreUsedInPartAndKept_data()
     {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("problem");
+        QTest::addColumn<QStringList>("scales");
+        const QString partly = QStringLiteral("設定ファイル %1 の一部を読み込めませんでした。読めた"
+                                              "値を使い、残りは既定値にします。\n");
+        const QString unread = QStringLiteral("設定ファイル %1 を読み込めませんでした。この設定は"
+                                              "既定値を使います。\n");
+        const QStringList defaults = scaleNames(CSystemScaleSetting::makeDefault());
+        const QByteArray scale300 = "\n  <Scale numerator=\"1\" denominator=\"300\"/>";
+        QTest::newRow("bad entry")
+            << "<SystemScaleSetting>\n  <Scale numerator=\"1\" denominator=\"0\"/>" + scale300
+                   + "\n</SystemScaleSetting>\n"
+            << partly + "2 行目: <Scale> を読み飛ばしました (値が正しくないか、重複しています)"
+            << QStringList{"1/300"};
+        QTest::newRow("truncated")
+            << "<SystemScaleSetting>" + scale300 + "\n  <Scale numerator=\"1\" denomin"
+            << partly + "3 行目: ファイルが途中で終わっています" << QStringList{"1/300"};
+        QTest::newRow("over the cap")
+            << QByteArray()
+            << unread + "ファイルが大きすぎます (4194305 バイト。上限は 4194304 バイト)"
+            << defaults;
+        QString utf16 = QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-16\"?>\n"
+                                       "<!DOCTYPE d [<!ENTITY a \"aaaaaaaaaa\">]>\n"
+                                       "<SystemScaleSetting>&a;</SystemScaleSetting>");
+        utf16.prepend(QChar(QChar::ByteOrderMark));
+        QTest::newRow("entity in UTF-16")
+            << QByteArray(reinterpret_cast<const char*>(utf16.utf16()), utf16.size() * 2)
+            << unread + "2 行目: DTD (<!DOCTYPE>) と実体宣言は受け付けません" << defaults;
+    }
+    void settingsFilesThatCannotBeReadFullyAreUsedInPartAndKept()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, problem);
+        QFETCH(QStringList, scales);
         test::HostFixture host;
         const QString file = host.path(QStringLiteral("SystemScaleSetting.xml"));
-        const QByteArray broken("<SystemScaleSetting><Scale numerator=\"1\" denomin");
-        QVERIFY(test::writeFile(file, broken));
+        if (content.isEmpty()) { // sparse, just over the cap
+            QFile big(file);
+            QVERIFY(big.open(QIODevice::WriteOnly) && big.resize(4 * 1024 * 1024 + 1));
+        } else {
+            QVERIFY(test::writeFile(file, content));
+        }
+        const QByteArray original = test::readFile(file);
         Workbench bench(host.folder());
         QCOMPARE(bench.problems.size(), std::size_t(1));
-        const SettingsStore::Problem& problem = bench.problems.front();
-        QCOMPARE(problem.file, file);
-        QVERIFY(!problem.reason.isEmpty());
-        QVERIFY(problem.backup.startsWith(file + QStringLiteral(".broken-")));
-        QCOMPARE(test::readFile(problem.backup), broken);
-        QVERIFY(!QFile::exists(file));
-        QVERIFY(bench.scales().isSame(CSystemScaleSetting::makeDefault()));
+        QCOMPARE(bench.problems.front().message,
+                 problem.arg(QDir::toNativeSeparators(file))
+                     + QStringLiteral("\nこの設定を次に保存する前に、元のファイルを "
+                                      "SystemScaleSetting.xml.bak-日時 として残します。"));
+        QCOMPARE(scaleNames(bench.scales()), scales);
+        QVERIFY(test::readFile(file) == original); // reading changes nothing
 
-        ScopedModalDrivers drivers(addScaleOf300);
-        bool changed = false;
-        QString error;
-        QVERIFY(bench.session.openTopic(bench.scaleTopic(), &changed, &error));
-        QCOMPARE(test::readFile(problem.backup), broken); // the backup is never written over
-        QVERIFY(QFile::exists(file));
+        ScopedModalDrivers drivers(addScale(600));
+        drivers.add(addScale(700));
+        QVERIFY(bench.open(QStringLiteral("system-scale")));
+        QVERIFY(bench.open(QStringLiteral("system-scale")));
+        const QStringList backups =
+            QDir(host.folder()).entryList({QStringLiteral("SystemScaleSetting.xml.bak-*")});
+        QCOMPARE(backups.size(), 1); // before the first save only
+        QVERIFY(test::readFile(host.path(backups.front())) == original);
+        CSystemScaleSetting saved;
+        QVERIFY(saved.loadXML(file.toStdWString()));
+        const QStringList added = {QStringLiteral("1/600"), QStringLiteral("1/700")};
+        QCOMPARE(scaleNames(saved), scales + added);
+    }
+
+    // Saving is told when it fails, and the setting goes back to what its file holds; the
+    // status bar says "保存しました" only when a file was written. A drawing read in part says so.
+    void theWindowSaysWhatWasSavedAndWhatWasNot()
+    {
+        QTemporaryDir dir;
+        const QString folder = dir.filePath(QStringLiteral("settings"));
+        QVERIFY(QDir().mkpath(folder));
+        Workbench bench(folder);
+        WorkbenchWindow window(bench.session);
+        ui::framework::MessageBoxRecorder boxes;
+        const QString title = bench.scaleTopic().title;
+        ScopedModalDrivers drivers(test::pressOk);
+        window.openTopic(bench.scaleTopic());
+        QCOMPARE(window.statusBar()->currentMessage(),
+                 QStringLiteral("「%1」は変更されていません。").arg(title));
+        drivers.add(addScale(300));
+        window.openTopic(bench.scaleTopic());
+        QCOMPARE(window.statusBar()->currentMessage(),
+                 QStringLiteral("「%1」を保存しました。").arg(title));
+        const CSystemScaleSetting saved = bench.scales();
+
+        QVERIFY(QDir(folder).removeRecursively()); // the folder can no longer be written
+        drivers.add(addScale(400));
+        window.openTopic(bench.scaleTopic());
+        QCOMPARE(boxes.count(), std::size_t(1));
+        QCOMPARE(
+            test::lastBox(boxes),
+            title + u'|'
+                + QStringLiteral("「%1」の変更を保存できなかったため、変更前の設定に戻しました。\n"
+                                 "設定ファイル %2 を保存できませんでした。フォルダ %3 に書き込め"
+                                 "ません。\nフォルダの書き込み権限と空き容量を確かめるか、"
+                                 "--settings で別の設定フォルダを指定してください。")
+                      .arg(title,
+                           QDir::toNativeSeparators(
+                               QDir(folder).filePath(QStringLiteral("SystemScaleSetting.xml"))),
+                           QDir::toNativeSeparators(folder)));
+        QVERIFY(bench.scales().isSame(saved));
+
+        const QString drawing = dir.filePath(QStringLiteral("d.xml"));
+        QVERIFY(test::writeFile(drawing, "<drawing>\n<layer/>\n</drawing>"));
+        window.openDrawing(drawing);
+        QCOMPARE(test::lastBox(boxes),
+                 QStringLiteral("図面を開く|図面 %1 には読めない部分がありました。読めた部分を開き"
+                                "ます。\n2 行目: レイヤには名前 (name) が要ります")
+                     .arg(QDir::toNativeSeparators(drawing)));
     }
 
     void theSampleDrawingOpensWithItsScalesAndLayers()
@@ -185,46 +287,6 @@ private slots:
         QCOMPARE(used.size(), std::size_t(6));
         QCOMPARE(std::count(used.begin(), used.end(), layers[1]), 2);
         QCOMPARE(std::count(used.begin(), used.end(), layers[5]), 0);
-    }
-
-    void badDrawingFilesAreRefusedWithAReason_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QString>("reason");
-        QTest::newRow("not xml") << "a.xml" << QByteArray("SECTION") << "line 1";
-        QTest::newRow("other root") << "b.xml" << QByteArray("<layers/>") << "<drawing>";
-        QTest::newRow("zero scale")
-            << "c.xml"
-            << QByteArray("<drawing><scale numerator=\"1\" denominator=\"0\"/></drawing>")
-            << "0 より大きい";
-        QTest::newRow("nameless coordinate system")
-            << "f.xml" << QByteArray("<drawing><coordsys/></drawing>") << "名前が必要です";
-        QTest::newRow("nameless layer")
-            << "d.xml" << QByteArray("<drawing><layer/></drawing>") << "名前が必要です";
-        QTest::newRow("figure before its layer")
-            << "f.xml" << QByteArray("<drawing><figure layer=\"A\"/><layer name=\"A\"/></drawing>")
-            << "1 行目: 要素には";
-        QTest::newRow("unknown format")
-            << "e.dwg" << QByteArray("AC1027") << "図面の形式が分かりません";
-    }
-    void badDrawingFilesAreRefusedWithAReason()
-    {
-        QFETCH(QString, name);
-        QFETCH(QByteArray, content);
-        QFETCH(QString, reason);
-        test::HostFixture host;
-        const QString path = host.path(name);
-        QFile out(path);
-        QVERIFY(out.open(QIODevice::WriteOnly));
-        out.write(content);
-        out.close();
-        QString error;
-        QVERIFY(!openDrawing(path, &error));
-        QVERIFY2(error.contains(reason), qPrintable(error));
-        QVERIFY(error.contains(path));
-        QVERIFY(!openDrawing(host.path(QStringLiteral("none.xml")), &error));
-        QVERIFY(error.contains(QStringLiteral("ファイルがありません")));
     }
 
     void layerDialogsOpenOnTheDrawingAndKeepTheirFlagsWithItsViews()
@@ -335,7 +397,7 @@ private slots:
         QCOMPARE(loaded.hatchType, 3);
     }
 
-    void anUnreadableDialogDataFileIsSetAsideAndReported()
+    void anUnreadableDialogDataFileIsReportedAndLeftAsItIs()
     {
         test::HostFixture host;
         const QString file = host.path(QStringLiteral("dialogdata.xml"));
@@ -343,16 +405,19 @@ private slots:
         QVERIFY(test::writeFile(file, broken));
         Workbench bench(host.folder());
         QCOMPARE(bench.problems.size(), std::size_t(1));
-        const SettingsStore::Problem& problem = bench.problems.front();
-        QCOMPARE(problem.file, file);
-        QVERIFY(!problem.reason.isEmpty());
-        QVERIFY(problem.backup.startsWith(file + QStringLiteral(".broken-")));
-        QVERIFY(test::readFile(problem.backup) == broken);
-        QVERIFY(dialogDataNames(file).isEmpty());
+        QCOMPARE(
+            bench.problems.front().message,
+            QStringLiteral("ダイアログの記憶ファイル %1 を読み込めません。\n1 行目: ファイルが途中"
+                           "で終わっています\nファイルはそのまま残し、ダイアログは前回の値を読ま"
+                           "ず、このファイルに書きもしません。直すか別の名前に変えてから、ワーク"
+                           "ベンチを起動し直してください。")
+                .arg(QDir::toNativeSeparators(file)));
         ui::config::SDrawingHatch hatch;
         hatch.initByDefault();
-        QVERIFY(hatch.saveDialogData());
-        QVERIFY(test::readFile(problem.backup) == broken);
+        QVERIFY(!hatch.saveDialogData());
+        QVERIFY(test::readFile(file) == broken);
+        QCOMPARE(QDir(host.folder()).entryList({QStringLiteral("dialogdata*")}),
+                 QStringList{QStringLiteral("dialogdata.xml")});
     }
 
     // Said in a window that names the folder and why; the user may choose another folder

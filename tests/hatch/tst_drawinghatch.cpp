@@ -5,10 +5,14 @@
 #include "hatch/DrawingHatch.h"
 #include "setting/SystemLineTypeSetting.h"
 #include "types/KsLayer.h"
+#include "utility/Xml.h"
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QTest>
+
+#include <memory>
 
 using namespace kesto;
 using ui::config::SDrawingHatch;
@@ -304,6 +308,8 @@ private slots:
         while (huge.size() < 10 * 1024 * 1024)
             huge += "<v>" + filler + "</v>";
         QTest::newRow("10 MB") << huge + "</dlgdata></DialogData>";
+        QTest::newRow("5,000 levels of foreign content")
+            << file(kOther + QByteArray("<x>").repeated(5000) + QByteArray("</x>").repeated(5000));
     }
 
     void badFilesGiveFalseAndAreLeftUntouched()
@@ -381,6 +387,88 @@ private slots:
         QVERIFY(loaded.loadXMLNode(reversed, nullptr));
         QVERIFY(sameStoredFields(loaded, saved));
         QVERIFY(!loaded.loadXMLNode(QDomNode(), nullptr));
+    }
+
+    // A file saved again without a change is the same, byte for byte, in this process and in
+    // others (whatever order their hashes give attributes); the rest of a file keeps its layout.
+    void savingIsStableAndKeepsTheLayoutOfTheRest_data()
+    {
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QByteArray>("kept"); // the text around the record, as it was
+        QTest::newRow("compact") << file(kOther) << "<DialogData>" + kOther;
+        const QByteArray tabs =
+            "<DialogData>\n\t<dlgdata name=\"LayerFilter\">\n\t\t<Keep>1</Keep>\n\t</dlgdata>\n";
+        QTest::newRow("tabs") << tabs + "</DialogData>\n"
+                              << tabs + "\t<dlgdata name=\"DrawingHatch\">";
+    }
+    void savingIsStableAndKeepsTheLayoutOfTheRest()
+    {
+        QFETCH(QByteArray, before);
+        QFETCH(QByteArray, kept);
+        test::HostFixture host;
+        QVERIFY(test::writeFile(dialogData(host), before));
+        const SDrawingHatch hatch = customHatch();
+        QVERIFY(hatch.saveDialogData());
+        const QByteArray once = test::readFile(dialogData(host));
+        QVERIFY2(once.contains(kept), once.constData());
+        QVERIFY(hatch.saveDialogData());
+        QVERIFY(test::readFile(dialogData(host)) == once);
+        SDrawingHatch loaded;
+        QVERIFY(loaded.loadDialogData() && sameStoredFields(loaded, hatch));
+    }
+
+    void otherProcessesWriteTheSameBytes()
+    {
+        test::HostFixture host;
+        const QByteArray empty = file({});
+        QStringList folders;
+        for (const char* seed : {"1", "2"}) {
+            folders << host.path(QString::fromLatin1(seed));
+            QVERIFY(QDir().mkpath(folders.last()));
+            QVERIFY(test::writeFile(folders.last() + QStringLiteral("/dialogdata.xml"), empty));
+            QProcess writer;
+            QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+            env.insert(QStringLiteral("QT_HASH_SEED"), QString::fromLatin1(seed));
+            writer.setProcessEnvironment(env);
+            writer.start(QStringLiteral(KS_DIALOGDATA_WRITER),
+                         {folders.last(), QStringLiteral("DrawingHatch"), QStringLiteral("1")});
+            QVERIFY(writer.waitForFinished(60000) && writer.exitCode() == 0);
+        }
+        QVERIFY(test::writeFile(dialogData(host), empty));
+        SDrawingHatch hatch;
+        hatch.initByDefault();
+        QVERIFY(hatch.saveDialogData());
+        const QByteArray here = test::readFile(dialogData(host));
+        QVERIFY(here.contains("<FigurePattern"));
+        for (const QString& folder : folders)
+            QVERIFY(test::readFile(folder + QStringLiteral("/dialogdata.xml")) == here);
+    }
+
+    // Eight processes saving their own records at once: every record ends with its last value.
+    void concurrentSavesLoseNothing()
+    {
+        test::HostFixture host;
+        QVERIFY(test::writeFile(dialogData(host), file(kOther)));
+        std::vector<std::unique_ptr<QProcess>> writers;
+        for (int i = 0; i < 8; ++i) {
+            writers.push_back(std::make_unique<QProcess>());
+            writers.back()->start(
+                QStringLiteral(KS_DIALOGDATA_WRITER),
+                {host.folder(), QStringLiteral("Writer%1").arg(i), QStringLiteral("50")});
+        }
+        for (const auto& writer : writers)
+            QVERIFY(writer->waitForFinished(240000) && writer->exitCode() == 0);
+        QDomDocument doc;
+        QVERIFY(doc.setContent(test::readFile(dialogData(host))));
+        const QDomElement root = doc.documentElement();
+        QCOMPARE(root.elementsByTagName(QStringLiteral("dlgdata")).size(), 9);
+        for (int i = 0; i < 8; ++i) {
+            QDomElement record;
+            QVERIFY(utility::xml::findByAttribute(
+                record, root.elementsByTagName(QStringLiteral("dlgdata")), QStringLiteral("name"),
+                QStringLiteral("Writer%1").arg(i)));
+            QCOMPARE(record.text(), QStringLiteral("50"));
+        }
     }
 };
 

@@ -363,13 +363,12 @@ private slots:
             "<SystemHatchingSetting><FigurePatterns><FigurePattern name=\"a\" length2=\"x\"/>"
             "</FigurePatterns></SystemHatchingSetting>",
         };
-        for (const QString& text : bad) { // from a document and from a file, read as a stream
+        for (const QString& text : bad) { // from a document and from a file
             CSystemHatchingSetting target = s;
             QVERIFY2(!target.loadXMLNode(parsed(text)), qPrintable(text));
             QString error;
             QVERIFY(!test::loadsText(host, target, text.toUtf8(), &error));
-            QCOMPARE(error,
-                     QStringLiteral("the contents of <SystemHatchingSetting> are malformed"));
+            QCOMPARE(error, QStringLiteral("<SystemHatchingSetting> の内容を読めません"));
             QVERIFY(target.isSame(s));
         }
         // Cut short, or more after the root: nothing is taken from what was read.
@@ -378,7 +377,7 @@ private slots:
             CSystemHatchingSetting target = s;
             QString error;
             QVERIFY(!test::loadsText(host, target, text, &error));
-            QVERIFY2(error.startsWith(QStringLiteral("line 1, column ")), qPrintable(error));
+            QVERIFY2(error.startsWith(QStringLiteral("1 行目: ")), qPrintable(error));
             QVERIFY(target.isSame(s));
         }
         // The same name in different kinds is fine.

@@ -121,20 +121,6 @@ private slots:
         QCOMPARE(test::readFile(host.path(QStringLiteral("loaded.xml"))), content);
     }
 
-    void oversizedFilesAreRefusedBeforeReading()
-    {
-        test::HostFixture host;
-        const QString path = host.path(QStringLiteral("huge.xml"));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QVERIFY(file.resize(utility::xml::kMaxDocumentBytes + 1)); // sparse
-        file.close();
-        QDomDocument doc;
-        QString error;
-        QVERIFY(!utility::xml::load(doc, path.toStdWString(), &error));
-        QVERIFY(error.contains(QStringLiteral("larger than")));
-    }
-
     void savingIntoAMissingFolderFailsWithAReason()
     {
         test::HostFixture host;

@@ -26,6 +26,46 @@ bool readColor(const QDomElement& e, KsColor& out)
 
 } // namespace
 
+bool CDrawCommonSetting::readColorPart(const QDomElement& e, CDrawCommonSetting& out)
+{
+    int mode = 0;
+    KsColor color;
+    if (!utility::xml::readIntAttribute(e, QStringLiteral("mode"), mode) || !readColor(e, color))
+        return false;
+    out.m_colorMode = mode;
+    out.m_color = color;
+    return true;
+}
+
+bool CDrawCommonSetting::readLineTypePart(const QDomElement& e, CDrawCommonSetting& out)
+{
+    int mode = 0;
+    if (!utility::xml::readIntAttribute(e, QStringLiteral("mode"), mode))
+        return false;
+    out.m_lineTypeMode = mode;
+    out.m_lineTypeName = e.attribute(QStringLiteral("name")).toStdWString();
+    return true;
+}
+
+bool CDrawCommonSetting::readWidthPart(const QDomElement& e, CDrawCommonSetting& out)
+{
+    double width = 0;
+    int kind = 0;
+    if (!utility::xml::readDoubleAttribute(e, QStringLiteral("value"), width) || width < 0
+        || !utility::xml::readIntAttribute(e, QStringLiteral("kind"), kind))
+        return false;
+    out.m_width = width;
+    out.m_widthKind = kind;
+    return true;
+}
+
+bool CDrawCommonSetting::readEndsPart(const QDomElement& e, CDrawCommonSetting& out)
+{
+    out.m_startLineEnd = e.attribute(QStringLiteral("start")).toStdWString();
+    out.m_endLineEnd = e.attribute(QStringLiteral("end")).toStdWString();
+    return true;
+}
+
 bool CDrawCommonSetting::isSame(const CDrawCommonSetting& o) const
 {
     return m_colorMode == o.m_colorMode && m_color == o.m_color
@@ -37,46 +77,15 @@ bool CDrawCommonSetting::isSame(const CDrawCommonSetting& o) const
 
 bool CDrawCommonSetting::loadXMLNode(const QDomElement& element)
 {
-    using namespace utility::xml;
     CDrawCommonSetting read = *this;
     // Each part on its own: one that cannot be read is skipped when entries may be.
-    const auto part = [&element](const char* tag, const auto& readPart) {
+    const auto part = [&](const char* tag,
+                          bool (*readPart)(const QDomElement&, CDrawCommonSetting&)) {
         const QDomElement e = element.firstChildElement(QLatin1String(tag));
-        return (!e.isNull() && readPart(e)) || skipEntry(e);
+        return (!e.isNull() && readPart(e, read)) || utility::xml::skipEntry(e);
     };
-    const bool ok =
-        part("Color",
-             [&](const QDomElement& e) {
-                 int mode = 0;
-                 KsColor color;
-                 if (!readIntAttribute(e, QStringLiteral("mode"), mode) || !readColor(e, color))
-                     return false;
-                 read.m_colorMode = mode;
-                 read.m_color = color;
-                 return true;
-             })
-        && part("LineType",
-                [&](const QDomElement& e) {
-                    read.m_lineTypeName = e.attribute(QStringLiteral("name")).toStdWString();
-                    return readIntAttribute(e, QStringLiteral("mode"), read.m_lineTypeMode);
-                })
-        && part("LineWidth",
-                [&](const QDomElement& e) {
-                    double width = 0;
-                    int kind = 0;
-                    if (!readDoubleAttribute(e, QStringLiteral("value"), width) || width < 0
-                        || !readIntAttribute(e, QStringLiteral("kind"), kind))
-                        return false;
-                    read.m_width = width;
-                    read.m_widthKind = kind;
-                    return true;
-                })
-        && part("LineEnds", [&](const QDomElement& e) {
-               read.m_startLineEnd = e.attribute(QStringLiteral("start")).toStdWString();
-               read.m_endLineEnd = e.attribute(QStringLiteral("end")).toStdWString();
-               return true;
-           });
-    if (!ok)
+    if (!part("Color", &readColorPart) || !part("LineType", &readLineTypePart)
+        || !part("LineWidth", &readWidthPart) || !part("LineEnds", &readEndsPart))
         return false;
     read.m_virtualElement =
         element.firstChildElement(QStringLiteral("VirtualElement")).attribute(QStringLiteral("on"))

@@ -52,6 +52,12 @@ public:
     void saveXMLNode(QDomDocument& doc, QDomElement& element) const override;
 
 private:
+    // The parts of the file form; false, and out unchanged, when the part cannot be read.
+    static bool readColorPart(const QDomElement& e, CDrawCommonSetting& out);
+    static bool readLineTypePart(const QDomElement& e, CDrawCommonSetting& out);
+    static bool readWidthPart(const QDomElement& e, CDrawCommonSetting& out);
+    static bool readEndsPart(const QDomElement& e, CDrawCommonSetting& out);
+
     int m_colorMode = ColorModeByLayer;
     KsColor m_color = KsColor(0x000000, KsColor::System, L"黒");
     int m_lineTypeMode = LineTypeModeByLayer;

@@ -3,6 +3,7 @@
 #include "command/CommandTable.h"
 #include "control/KsListCtrl.h"
 #include "framework/MessageBox.h"
+#include "setting/LineEndSetting.h"
 #include "setting/LineWidthSetting.h"
 #include "setting/SystemColorSetting.h"
 #include "setting/SystemLineTypeSetting.h"
@@ -15,6 +16,7 @@
 #include <QFile>
 #include <QMouseEvent>
 #include <QSettings>
+#include <QTabBar>
 #include <QTest>
 
 namespace kesto::test {
@@ -48,6 +50,7 @@ void HostFixture::putTables()
     m_config->putSetting(
         std::make_unique<CSystemLineTypeSetting>(CSystemLineTypeSetting::makeDefault()));
     m_config->putSetting(std::make_unique<CLineWidthSetting>(CLineWidthSetting::makeDefault()));
+    m_config->putSetting(std::make_unique<CLineEndSetting>(CLineEndSetting::makeDefault()));
 }
 
 QVariant HostFixture::savedPlacement(const QString& key) const
@@ -151,6 +154,22 @@ QStringList itemTexts(const QComboBox& combo)
     QStringList out;
     for (int i = 0; i < combo.count(); ++i)
         out << combo.itemText(i);
+    return out;
+}
+
+QStringList tabTexts(const QTabBar& bar)
+{
+    QStringList out;
+    for (int i = 0; i < bar.count(); ++i)
+        out << bar.tabText(i);
+    return out;
+}
+
+QString bits(std::initializer_list<bool> states)
+{
+    QString out;
+    for (bool on : states)
+        out += on ? u'1' : u'0';
     return out;
 }
 

@@ -14,6 +14,8 @@ using ui::setting::SMouseSetting;
 
 namespace {
 
+using Codes = std::array<int, 3>; // left drag, both buttons, wheel rotation
+
 const std::vector<SCandidate> kCandidates = {
     {L"ID_VIEW_REDRAW", QStringLiteral("再描画")},
     {L"ID_VIEW_ZOOM_ALL", QStringLiteral("全体表示")},
@@ -47,33 +49,30 @@ private slots:
         QCOMPARE(view2D->menuCommands, std::vector<std::wstring>{L"A"}); // exact name, first one
         QCOMPARE(view2D->actionCommands, std::vector<std::wstring>{L"B"});
         QCOMPARE(findViewCommands(list, L"3DView")->menuCommands, std::vector<std::wstring>{L"C"});
-        QVERIFY(!findViewCommands(list, L"2dview"));
-        QVERIFY(!findViewCommands(list, L"2DVie"));
+        QVERIFY(!findViewCommands(list, L"2dview") && !findViewCommands(list, L"2DVie"));
 
         QVERIFY(readMouseCommands(host.path(QStringLiteral("none.xml")).toStdWString()).empty());
         QVERIFY(readMouseCommands(L"").empty());
-        QVERIFY(test::writeFile(path, "<MouseCommands><Commands view=\"2DView\">"));
-        QVERIFY(readMouseCommands(path.toStdWString()).empty());
-        QVERIFY(test::writeFile(path, "<Other><Commands view=\"2DView\"/></Other>"));
-        QVERIFY(readMouseCommands(path.toStdWString()).empty());
+        for (const char* bad : {"<MouseCommands><Commands view=\"2DView\">",
+                                "<Other><Commands view=\"2DView\"/></Other>"}) {
+            QVERIFY(test::writeFile(path, bad));
+            QVERIFY(readMouseCommands(path.toStdWString()).empty());
+        }
     }
 
     void theViewTabIsNamedAfterTheHostsView()
     {
         using core::IMainFrame;
-        QCOMPARE(viewTabCaption({}, false, IMainFrame::FrameMode2D), QStringLiteral("2Dビュー"));
-        QCOMPARE(
-            viewTabCaption({QStringLiteral("平面図モード"), {}}, false, IMainFrame::FrameMode2D),
-            QStringLiteral("平面図"));
-        QCOMPARE(viewTabCaption({QStringLiteral("平面図モード"), QStringLiteral("縦断図")}, false,
-                                IMainFrame::FrameMode2D),
-                 QStringLiteral("平面図/縦断図"));
-        QCOMPARE(
-            viewTabCaption({QStringLiteral("平面図モード"), {}}, true, IMainFrame::FrameModeRed),
-            QStringLiteral("朱書きビュー"));
-        QCOMPARE(
-            viewTabCaption({QStringLiteral("平面図モード"), {}}, false, IMainFrame::FrameMode3D),
-            QStringLiteral("3Dビュー"));
+        const QString plan = QStringLiteral("平面図モード");
+        const std::tuple<SViewNames, bool, IMainFrame::EFrameMode, const char*> cases[] = {
+            {{}, false, IMainFrame::FrameMode2D, "2Dビュー"},
+            {{plan, {}}, false, IMainFrame::FrameMode2D, "平面図"},
+            {{plan, QStringLiteral("縦断図")}, false, IMainFrame::FrameMode2D, "平面図/縦断図"},
+            {{plan, {}}, true, IMainFrame::FrameModeRed, "朱書きビュー"},
+            {{plan, {}}, false, IMainFrame::FrameMode3D, "3Dビュー"},
+        };
+        for (const auto& [names, red, mode, caption] : cases)
+            QCOMPARE(viewTabCaption(names, red, mode), QString::fromUtf8(caption));
     }
 
     void tabsChoosePagesAndHelpTopics()
@@ -96,14 +95,15 @@ private slots:
 
     void rowTextsMarkCommandsOfDirectEditing()
     {
-        QCOMPARE(commandRowText(L"ID_VIEW_SELECT_RANGE_DISPLAY", QStringLiteral("範囲表示")),
-                 QStringLiteral("表示範囲"));
-        QCOMPARE(commandRowText(L"ID_VIEW_ROTATE_ELEMENT_HORIZONTALLY", QStringLiteral("x")),
-                 QStringLiteral("回転表示"));
-        QCOMPARE(commandRowText(L"ID_EDIT_TEXT_CONTENTS", QStringLiteral("x")),
-                 QStringLiteral("文字内容編集 ※"));
-        QCOMPARE(commandRowText(L"ID_TOOL_HYPERLINK_SETUP", QStringLiteral("x")),
-                 QStringLiteral("ハイパーリンクの設定 ※"));
+        const std::pair<const wchar_t*, const char*> fixed[] = {
+            {L"ID_VIEW_SELECT_RANGE_DISPLAY", "表示範囲"},
+            {L"ID_VIEW_ROTATE_ELEMENT_HORIZONTALLY", "回転表示"},
+            {L"ID_EDIT_TEXT_CONTENTS", "文字内容編集 ※"},
+            {L"ID_TOOL_HYPERLINK_SETUP", "ハイパーリンクの設定 ※"},
+            {L"ID_EDIT_PASTE", "名前"},
+        };
+        for (const auto& [id, text] : fixed)
+            QCOMPARE(commandRowText(id, QStringLiteral("名前")), QString::fromUtf8(text));
         const QString marked = QStringLiteral(
             "ID_TOOL_ELEMENT_STATUS ID_EDIT_PROPERTY_COPY ID_EDIT_PROPERTY_ACTIVE "
             "ID_EDIT_MOVE_MOVE "
@@ -113,17 +113,10 @@ private slots:
         for (const QString& id : marked.split(u' '))
             QCOMPARE(commandRowText(id.toStdWString(), QStringLiteral("名前")),
                      QStringLiteral("名前 ※"));
-        QCOMPARE(commandRowText(L"ID_EDIT_PASTE", QStringLiteral("貼り付け")),
-                 QStringLiteral("貼り付け"));
 
-        utility::CCommandTable table;
-        table.addGroup(L"編集");
-        utility::SCommand erase;
-        erase.number = 5;
-        erase.id = L"ID_EDIT_ERASE";
-        erase.name = L"削除";
-        erase.group = 0;
-        QVERIFY(table.addCommand(erase));
+        const utility::CCommandTable table = test::commandTable(QStringLiteral(
+            R"(<CommandTable><Group name="g"><Command number="5" id="ID_EDIT_ERASE" name="削除"/>
+            </Group></CommandTable>)"));
         ui::control::SContextMenuDataItem item;
         item.id = L"ID_EDIT_ERASE";
         item.name = L"古い名前";
@@ -139,17 +132,8 @@ private slots:
         QCOMPARE(resolved[1].name, QStringLiteral("ID_UNKNOWN"));
     }
 
-    void cornerCommandsMapToComboPositions()
-    {
-        QCOMPARE(commandComboIndex(kCandidates, L"ID_EDIT_UNDO"), 3);
-        QCOMPARE(commandComboIndex(kCandidates, L""), 0);
-        QCOMPARE(commandComboIndex(kCandidates, L"ID_GONE"), 0);
-        QCOMPARE(commandOfComboIndex(kCandidates, 1), std::wstring(L"ID_VIEW_REDRAW"));
-        QCOMPARE(commandOfComboIndex(kCandidates, 0), std::wstring());
-        QCOMPARE(commandOfComboIndex(kCandidates, 4), std::wstring()); // past the end
-        QCOMPARE(commandOfComboIndex({}, 1), std::wstring());
-    }
-
+    // Corner combos hold "なし" and the candidates; an unknown command or a selection past the
+    // list stores nothing.
     void bothButtonsLoadAndStore_data()
     {
         QTest::addColumn<int>("stored");
@@ -165,41 +149,29 @@ private slots:
     void bothButtonsLoadAndStore()
     {
         QFETCH(int, stored);
-        QFETCH(int, radio);
-        QFETCH(int, written);
         SMouseSetting view;
         view.bothButtonsAction = stored;
         view.leftUpCommand = L"ID_VIEW_ZOOM_ALL";
         view.leftDownCommand = L"ID_GONE";
         view.samePointCommand = L"ID_VIEW_REDRAW";
-        view.rightUpCommand = L"";
         view.rightDownCommand = L"ID_EDIT_UNDO";
-        const SBothButtonsControls controls = loadBothButtons(view, kCandidates);
-        QCOMPARE(controls.radio, radio);
+        SBothButtonsControls controls = loadBothButtons(view, kCandidates);
+        QTEST(controls.radio, "radio");
         QCOMPARE(controls.corners, (std::array<int, 5>{2, 0, 1, 0, 3}));
         SMouseSetting out;
         storeBothButtons(controls, kCandidates, out);
-        QCOMPARE(out.bothButtonsAction, written);
-        QCOMPARE(out.leftUpCommand, view.leftUpCommand);
-        QCOMPARE(out.leftDownCommand, std::wstring()); // an unknown command is not kept
-        QCOMPARE(out.samePointCommand, view.samePointCommand);
-        QCOMPARE(out.rightUpCommand, std::wstring());
-        QCOMPARE(out.rightDownCommand, view.rightDownCommand);
-    }
+        QTEST(out.bothButtonsAction, "written");
+        view.leftDownCommand.clear();
+        view.bothButtonsAction = out.bothButtonsAction;
+        QVERIFY(out == view);
 
-    void cornerSelectionsPastTheListStoreNothing()
-    {
-        SBothButtonsControls controls;
-        controls.radio = 0;
         controls.corners = {4, 9, -1, 3, 1};
-        SMouseSetting view;
-        view.leftUpCommand = L"ID_OLD";
-        storeBothButtons(controls, kCandidates, view);
-        QCOMPARE(view.leftUpCommand, std::wstring());
-        QCOMPARE(view.leftDownCommand, std::wstring());
-        QCOMPARE(view.samePointCommand, std::wstring());
-        QCOMPARE(view.rightUpCommand, std::wstring(L"ID_EDIT_UNDO"));
-        QCOMPARE(view.rightDownCommand, std::wstring(L"ID_VIEW_REDRAW"));
+        storeBothButtons(controls, kCandidates, out);
+        const std::wstring corners[] = {out.leftUpCommand, out.leftDownCommand,
+                                        out.samePointCommand, out.rightUpCommand,
+                                        out.rightDownCommand};
+        QCOMPARE(corners[0] + corners[1] + corners[2], std::wstring());
+        QCOMPARE(corners[3] + L"," + corners[4], std::wstring(L"ID_EDIT_UNDO,ID_VIEW_REDRAW"));
     }
 
     void wheelDragCodes_data()
@@ -218,16 +190,14 @@ private slots:
     {
         QFETCH(int, stored);
         QFETCH(int, item);
-        QFETCH(int, written);
         SMouseSetting view;
-        view.wheelDrag = stored;
-        view.ctrlWheelDrag = stored;
+        view.wheelDrag = view.ctrlWheelDrag = stored;
         const SWheelControls controls = loadWheel(view, kCandidates);
         QCOMPARE(controls.drag, (std::array<int, 2>{item, item}));
         SMouseSetting out;
         storeWheel(controls, kCandidates, out);
-        QCOMPARE(out.wheelDrag, written);
-        QCOMPARE(out.ctrlWheelDrag, written);
+        QTEST(out.wheelDrag, "written");
+        QTEST(out.ctrlWheelDrag, "written");
     }
 
     void wheelRotationClicksZoomAndDirection()
@@ -246,8 +216,7 @@ private slots:
         QCOMPARE(c.rotate, (std::array<int, 3>{2, 3, 0}));
         QCOMPARE(c.click, (std::array<int, 2>{2, 0}));
         QCOMPARE(c.zoomRate, QStringLiteral("12.5"));
-        QCOMPARE(c.upDirection, 0);
-        QCOMPARE(c.downDirection, 0);
+        QCOMPARE(c.upDirection + c.downDirection, 0);
 
         c.wheelCommands = true;
         c.rotate = {1, 0, 2};
@@ -256,14 +225,13 @@ private slots:
         c.upDirection = 1;
         SMouseSetting out;
         storeWheel(c, kCandidates, out);
-        QVERIFY(out.wheelCommands);
-        QCOMPARE(out.wheelRotate, 1);
-        QCOMPARE(out.ctrlWheelRotate, 0);
-        QCOMPARE(out.shiftWheelRotate, 2);
+        QVERIFY(out.wheelCommands && out.wheelUpZoomsIn);
+        QCOMPARE((std::array{out.wheelRotate, out.ctrlWheelRotate, out.shiftWheelRotate}),
+                 (std::array{1, 0, 2}));
         QCOMPARE(out.wheelClick, std::wstring(L"ID_EDIT_UNDO"));
         QCOMPARE(out.ctrlWheelClick, std::wstring(L"ID_VIEW_REDRAW"));
         QCOMPARE(out.stepZoomRate, 2.5);
-        QVERIFY(out.wheelUpZoomsIn);
+        QVERIFY(loadWheel(out, kCandidates).upDirection == 1);
 
         c.zoomRate = QStringLiteral("-40"); // no range check
         storeWheel(c, kCandidates, out);
@@ -275,44 +243,38 @@ private slots:
 
     void threeDimensionalCodesAreRewritten_data()
     {
-        QTest::addColumn<int>("leftDrag");
-        QTest::addColumn<int>("bothButtons");
-        QTest::addColumn<int>("wheelRotate");
-        QTest::addColumn<int>("leftDragOut");
-        QTest::addColumn<int>("bothButtonsOut");
-        QTest::addColumn<int>("wheelRotateOut");
-        QTest::newRow("first choices") << 3 << 2 << 1 << 3 << 2 << 1;
-        QTest::newRow("second choices") << 2 << 3 << 4 << 2 << 3 << 4;
-        QTest::newRow("zeros") << 0 << 0 << 0 << 2 << 3 << 4;
-        QTest::newRow("others") << 1 << 4 << 2 << 2 << 3 << 4;
+        QTest::addColumn<Codes>("stored");  // left drag, both buttons, wheel
+        QTest::addColumn<Codes>("written"); // the same after load and store
+        QTest::newRow("first choices") << std::array{3, 2, 1} << std::array{3, 2, 1};
+        QTest::newRow("second choices") << std::array{2, 3, 4} << std::array{2, 3, 4};
+        QTest::newRow("zeros") << std::array{0, 0, 0} << std::array{2, 3, 4};
+        QTest::newRow("others") << std::array{1, 4, 2} << std::array{2, 3, 4};
     }
     void threeDimensionalCodesAreRewritten()
     {
-        QFETCH(int, leftDrag);
-        QFETCH(int, bothButtons);
-        QFETCH(int, wheelRotate);
+        QFETCH(Codes, stored);
         SMouseSetting view;
-        view.leftDragAction = leftDrag;
-        view.bothButtonsAction = bothButtons;
-        view.wheelRotate = wheelRotate;
+        view.leftDragAction = stored[0];
+        view.bothButtonsAction = stored[1];
+        view.wheelRotate = stored[2];
         store3D(load3D(view), view);
-        QTEST(view.leftDragAction, "leftDragOut");
-        QTEST(view.bothButtonsAction, "bothButtonsOut");
-        QTEST(view.wheelRotate, "wheelRotateOut");
+        QTEST((std::array{view.leftDragAction, view.bothButtonsAction, view.wheelRotate}),
+              "written");
     }
 
+    // add, insert, remove, up, down, separator
     void menuButtonsFollowTheSelections()
     {
-        const SMenuButtonStates none = menuButtonStates(false, -1, 3);
-        QVERIFY(!none.add && !none.insert && !none.remove && !none.up && !none.down
-                && !none.separator);
-        const SMenuButtonStates first = menuButtonStates(true, 0, 3);
-        QVERIFY(first.add && first.insert && first.remove && !first.up && first.down
-                && first.separator);
-        const SMenuButtonStates last = menuButtonStates(false, 2, 3);
-        QVERIFY(!last.add && !last.insert && last.remove && last.up && !last.down);
-        const SMenuButtonStates empty = menuButtonStates(true, -1, 0);
-        QVERIFY(empty.add && !empty.insert && !empty.remove && !empty.separator);
+        const auto states = [](bool command, int item, int count) {
+            const SMenuButtonStates s = menuButtonStates(command, item, count);
+            return test::bits({s.add, s.insert, s.remove, s.up, s.down, s.separator});
+        };
+        QCOMPARE(states(false, -1, 3), QStringLiteral("000000"));
+        QCOMPARE(states(true, 0, 3), QStringLiteral("111011"));
+        QCOMPARE(states(false, 2, 3), QStringLiteral("001101"));
+        QCOMPARE(states(true, 1, 3), QStringLiteral("111111"));
+        QCOMPARE(states(true, -1, 0), QStringLiteral("100000"));
+        QCOMPARE(states(true, 3, 3), QStringLiteral("100000"));
     }
 };
 

@@ -65,70 +65,62 @@ class TestShortCutModel : public QObject {
     Q_OBJECT
 
 private slots:
-    void qtKeysMapToVirtualKeys_data()
-    {
-        QTest::addColumn<int>("qtKey");
-        QTest::addColumn<int>("modifiers");
-        QTest::addColumn<int>("vk");
-        const int keypad = Qt::KeypadModifier;
-        const int shift = Qt::ShiftModifier;
-        QTest::newRow("letter") << int(Qt::Key_S) << 0 << 0x53;
-        QTest::newRow("shifted letter") << int(Qt::Key_Z) << shift << 0x5A;
-        QTest::newRow("digit") << int(Qt::Key_7) << 0 << 0x37;
-        QTest::newRow("shift+1 reports !") << int(Qt::Key_Exclam) << shift << 0x31;
-        QTest::newRow("shift+0 reports )") << int(Qt::Key_ParenRight) << shift << 0x30;
-        QTest::newRow("F1") << int(Qt::Key_F1) << 0 << 0x70;
-        QTest::newRow("F13") << int(Qt::Key_F13) << 0 << 0x7C;
-        QTest::newRow("F24") << int(Qt::Key_F24) << 0 << 0x87;
-        QTest::newRow("keypad 0") << int(Qt::Key_0) << keypad << 0x60;
-        QTest::newRow("keypad 9") << int(Qt::Key_9) << keypad << 0x69;
-        QTest::newRow("keypad *") << int(Qt::Key_Asterisk) << keypad << 0x6A;
-        QTest::newRow("keypad +") << int(Qt::Key_Plus) << keypad << 0x6B;
-        QTest::newRow("keypad -") << int(Qt::Key_Minus) << keypad << 0x6D;
-        QTest::newRow("keypad .") << int(Qt::Key_Period) << keypad << 0x6E;
-        QTest::newRow("keypad /") << int(Qt::Key_Slash) << keypad << 0x6F;
-        QTest::newRow("keypad enter") << int(Qt::Key_Enter) << keypad << 0x0D;
-        QTest::newRow("keypad home (num lock off)") << int(Qt::Key_Home) << keypad << 0x24;
-        QTest::newRow("keypad 5 (num lock off)") << int(Qt::Key_Clear) << keypad << 0x0C;
-        QTest::newRow("home") << int(Qt::Key_Home) << 0 << 0x24;
-        QTest::newRow("end") << int(Qt::Key_End) << 0 << 0x23;
-        QTest::newRow("page up") << int(Qt::Key_PageUp) << 0 << 0x21;
-        QTest::newRow("page down") << int(Qt::Key_PageDown) << 0 << 0x22;
-        QTest::newRow("insert") << int(Qt::Key_Insert) << 0 << 0x2D;
-        QTest::newRow("delete") << int(Qt::Key_Delete) << 0 << 0x2E;
-        QTest::newRow("backspace") << int(Qt::Key_Backspace) << 0 << 0x08;
-        QTest::newRow("shift+tab") << int(Qt::Key_Backtab) << shift << 0x09;
-        QTest::newRow("minus") << int(Qt::Key_Minus) << 0 << 0xBD;
-        QTest::newRow("underscore") << int(Qt::Key_Underscore) << shift << 0xBD;
-        QTest::newRow("semicolon") << int(Qt::Key_Semicolon) << 0 << 0xBA;
-        QTest::newRow("colon") << int(Qt::Key_Colon) << shift << 0xBA;
-        QTest::newRow("equal") << int(Qt::Key_Equal) << 0 << 0xBB;
-        QTest::newRow("comma") << int(Qt::Key_Comma) << 0 << 0xBC;
-        QTest::newRow("period") << int(Qt::Key_Period) << 0 << 0xBE;
-        QTest::newRow("slash") << int(Qt::Key_Slash) << 0 << 0xBF;
-        QTest::newRow("grave") << int(Qt::Key_QuoteLeft) << 0 << 0xC0;
-        QTest::newRow("bracket left") << int(Qt::Key_BracketLeft) << 0 << 0xDB;
-        QTest::newRow("backslash") << int(Qt::Key_Backslash) << 0 << 0xDC;
-        QTest::newRow("yen") << int(Qt::Key_yen) << 0 << 0xDC;
-        QTest::newRow("bracket right") << int(Qt::Key_BracketRight) << 0 << 0xDD;
-        QTest::newRow("apostrophe") << int(Qt::Key_Apostrophe) << 0 << 0xDE;
-        QTest::newRow("muhenkan") << int(Qt::Key_Muhenkan) << 0 << 0x1D;
-        QTest::newRow("eisu") << int(Qt::Key_Eisu_toggle) << 0 << 0xF0;
-        QTest::newRow("windows key") << int(Qt::Key_Super_L) << 0 << 0x5B;
-        QTest::newRow("menu key") << int(Qt::Key_Menu) << 0 << 0x5D;
-        QTest::newRow("num lock") << int(Qt::Key_NumLock) << 0 << 0x90;
-        QTest::newRow("unknown") << int(Qt::Key_unknown) << 0 << 0;
-    }
+    // Keypad keys by the keypad modifier, shifted symbols to the key that carries them.
     void qtKeysMapToVirtualKeys()
     {
-        QFETCH(int, qtKey);
-        QFETCH(int, modifiers);
-        QFETCH(int, vk);
-        QCOMPARE(int(virtualKeyOf(qtKey, Qt::KeyboardModifiers(modifiers))), vk);
-    }
-
-    void eventsGiveFlagsAndKey()
-    {
+        const int keypad = Qt::KeypadModifier, shift = Qt::ShiftModifier;
+        const std::tuple<int, int, int> keys[] = {
+            {Qt::Key_S, 0, 0x53},
+            {Qt::Key_Z, shift, 0x5A},
+            {Qt::Key_7, 0, 0x37},
+            {Qt::Key_Exclam, shift, 0x31},
+            {Qt::Key_ParenRight, shift, 0x30},
+            {Qt::Key_F1, 0, 0x70},
+            {Qt::Key_F13, 0, 0x7C},
+            {Qt::Key_F24, 0, 0x87},
+            {Qt::Key_0, keypad, 0x60},
+            {Qt::Key_9, keypad, 0x69},
+            {Qt::Key_Asterisk, keypad, 0x6A},
+            {Qt::Key_Plus, keypad, 0x6B},
+            {Qt::Key_Minus, keypad, 0x6D},
+            {Qt::Key_Period, keypad, 0x6E},
+            {Qt::Key_Slash, keypad, 0x6F},
+            {Qt::Key_Enter, keypad, 0x0D},
+            {Qt::Key_Home, keypad, 0x24},
+            {Qt::Key_Clear, keypad, 0x0C}, // num lock off
+            {Qt::Key_Home, 0, 0x24},
+            {Qt::Key_End, 0, 0x23},
+            {Qt::Key_PageUp, 0, 0x21},
+            {Qt::Key_PageDown, 0, 0x22},
+            {Qt::Key_Insert, 0, 0x2D},
+            {Qt::Key_Delete, 0, 0x2E},
+            {Qt::Key_Backspace, 0, 0x08},
+            {Qt::Key_Backtab, shift, 0x09},
+            {Qt::Key_Minus, 0, 0xBD},
+            {Qt::Key_Underscore, shift, 0xBD},
+            {Qt::Key_Semicolon, 0, 0xBA},
+            {Qt::Key_Colon, shift, 0xBA},
+            {Qt::Key_Equal, 0, 0xBB},
+            {Qt::Key_Comma, 0, 0xBC},
+            {Qt::Key_Period, 0, 0xBE},
+            {Qt::Key_Slash, 0, 0xBF},
+            {Qt::Key_QuoteLeft, 0, 0xC0},
+            {Qt::Key_BracketLeft, 0, 0xDB},
+            {Qt::Key_Backslash, 0, 0xDC},
+            {Qt::Key_yen, 0, 0xDC},
+            {Qt::Key_BracketRight, 0, 0xDD},
+            {Qt::Key_Apostrophe, 0, 0xDE},
+            {Qt::Key_Muhenkan, 0, 0x1D},
+            {Qt::Key_Eisu_toggle, 0, 0xF0},
+            {Qt::Key_Super_L, 0, 0x5B},
+            {Qt::Key_Menu, 0, 0x5D},
+            {Qt::Key_NumLock, 0, 0x90},
+            {Qt::Key_unknown, 0, 0},
+        };
+        for (const auto& [key, modifiers, vk] : keys) {
+            const int got = virtualKeyOf(key, Qt::KeyboardModifiers(modifiers));
+            QCOMPARE(std::tuple(key, modifiers, got), std::tuple(key, modifiers, vk));
+        }
         const QKeyEvent ctrlShiftS(QEvent::KeyPress, Qt::Key_S,
                                    Qt::ControlModifier | Qt::ShiftModifier);
         QCOMPARE(keyStrokeOf(ctrlShiftS), (SKeyStroke{1 | 4 | 8, 0x53}));
@@ -138,6 +130,7 @@ private slots:
         QCOMPARE(keyStrokeOf(num5), (SKeyStroke{1, 0x65}));
     }
 
+    // Key texts are clear and each reads back; malformed texts are refused.
     void keyTextsAreClear()
     {
         QCOMPARE(keyStrokeText(1 | 4 | 8, 'S'), QStringLiteral("Ctrl+Shift+S"));
@@ -148,6 +141,11 @@ private slots:
         QCOMPARE(keyStrokeText(kCtrl, 0xE1), QStringLiteral("Ctrl+0xE1"));
         QCOMPARE(keyStrokeText(kCtrl, 0), QString());
         QCOMPARE(SShortCut::makeShortCutSz(9, 83), std::wstring(L"Ctrl+S"));
+        for (const char* text :
+             {"", "Ctrl+", "Hyper+S", "Ctrl+Ctrl+S", "0x00", "0x1FF", "SS", "Ctrl S"})
+            QVERIFY2(!parseKeyStroke(QString::fromLatin1(text)), text);
+        QCOMPARE(*parseKeyStroke(QStringLiteral(" shift+ctrl+f5 ")), (SKeyStroke{1 | 4 | 8, 0x74}));
+        QCOMPARE(*parseKeyStroke(QStringLiteral("Ctrl+Num +")), (SKeyStroke{kCtrl, 0x6B}));
     }
 
     // Rows are found by their key text, so every key must have a text of its own that reads back.
@@ -166,15 +164,6 @@ private slots:
                 QVERIFY2(back && *back == (SKeyStroke{accel, key}), qPrintable(text));
             }
         }
-    }
-
-    void malformedKeyTextsAreRefused()
-    {
-        for (const char* text :
-             {"", "Ctrl+", "Hyper+S", "Ctrl+Ctrl+S", "0x00", "0x1FF", "SS", "Ctrl S"})
-            QVERIFY2(!parseKeyStroke(QString::fromLatin1(text)), text);
-        QCOMPARE(*parseKeyStroke(QStringLiteral(" shift+ctrl+f5 ")), (SKeyStroke{1 | 4 | 8, 0x74}));
-        QCOMPARE(*parseKeyStroke(QStringLiteral("Ctrl+Num +")), (SKeyStroke{kCtrl, 0x6B}));
     }
 
     void aKeyBelongsToOneCommand()
@@ -199,21 +188,17 @@ private slots:
         QVERIFY(!setting.deleteItem(L"Ctrl+O"));
         QVERIFY(setting.deleteItem(1, 0x74));
         QCOMPARE(keyTexts(setting), QStringList({"Ctrl+S=20"}));
-    }
 
-    void sameBindingsInAnotherOrderAreTheSame()
-    {
-        CShortCutSetting a;
-        a.addItem(kCtrl, 'S', 10, L"ID_FILE_SAVE", L"上書き保存");
-        a.addItem(kCtrl, 'O', 12, L"ID_FILE_OPEN", L"開く");
-        CShortCutSetting b;
-        b.addItem(kCtrl, 'O', 12, L"ID_FILE_OPEN", L"開く");
-        b.addItem(kCtrl, 'S', 10, L"ID_FILE_SAVE", L"上書き保存");
-        QVERIFY(a.isSame(b));
-        b.addItem(kCtrl, 'S', 12, L"ID_FILE_OPEN", L"開く");
-        QVERIFY(!a.isSame(b));
-        b.deleteItem(kCtrl, 'S');
-        QVERIFY(!a.isSame(b));
+        // The same bindings in another order are the same.
+        CShortCutSetting other;
+        other.addItem(kCtrl, 'O', 12, L"ID_FILE_OPEN", L"開く");
+        other.addItem(kCtrl, 'S', 20, L"ID_DRAW_LINE", L"線分");
+        setting.addItem(kCtrl, 'O', 12, L"ID_FILE_OPEN", L"開く");
+        QVERIFY(setting.isSame(other));
+        other.addItem(kCtrl, 'S', 12, L"ID_FILE_OPEN", L"開く");
+        QVERIFY(!setting.isSame(other));
+        other.deleteItem(kCtrl, 'S');
+        QVERIFY(!setting.isSame(other));
     }
 
     void defaultsComeFromTheTableWithoutTakingAKeyTwice()

@@ -194,53 +194,27 @@ private slots:
     {
         test::HostFixture host;
         CShortCutSetting setting = defaults();
-        const auto ctrlKey = Qt::ControlModifier;
-        const struct {
-            Qt::Key key;
-            Qt::KeyboardModifiers modifiers;
-            const char* shown;
-            const char* owner;
-        } presses[] = {
-            {Qt::Key_Control, ctrlKey, "", ""}, // Ctrl alone
-            {Qt::Key_S, ctrlKey, "Ctrl+S", "上書き保存"},
-            {Qt::Key_Shift, {}, "Ctrl+S", "上書き保存"},
-            {Qt::Key_Alt, {}, "Ctrl+S", "上書き保存"},
-            {Qt::Key_Left, {}, "Ctrl+S", "上書き保存"},
-            {Qt::Key_Up, {}, "Ctrl+S", "上書き保存"},
-            {Qt::Key_Right, {}, "Ctrl+S", "上書き保存"},
-            {Qt::Key_Down, {}, "Ctrl+S", "上書き保存"},
-            {Qt::Key_Super_L, {}, "Ctrl+S", "上書き保存"},
-            {Qt::Key_Super_R, {}, "Ctrl+S", "上書き保存"},
-            {Qt::Key_Menu, {}, "Ctrl+S", "上書き保存"},
-            {Qt::Key_NumLock, {}, "Ctrl+S", "上書き保存"},
-            {Qt::Key_5, Qt::KeypadModifier | ctrlKey, "Ctrl+Num 5", ""},
-            {Qt::Key_F10, {}, "F10", ""},
-            {Qt::Key_X, Qt::AltModifier, "Alt+X", ""},
-            {Qt::Key_Exclam, ctrlKey | Qt::ShiftModifier, "Ctrl+Shift+1", ""},
-            {Qt::Key_Delete, {}, "Del", "削除"},
-            {Qt::Key_Tab, {}, "", ""},
-            {Qt::Key_S, ctrlKey, "Ctrl+S", "上書き保存"},
-            {Qt::Key_Return, {}, "", ""},
-            {Qt::Key_S, ctrlKey, "Ctrl+S", "上書き保存"},
-            {Qt::Key_Enter, {}, "", ""},
-            {Qt::Key_Delete, {}, "Del", "削除"},
-            {Qt::Key_Escape, {}, "", ""},
-            {Qt::Key_S, ctrlKey, "Ctrl+S", "上書き保存"},
-            {Qt::Key_F1, {}, "", ""},
-            {Qt::Key_S, ctrlKey, "Ctrl+S", "上書き保存"},
-            {Qt::Key_Muhenkan, {}, "", ""},
-            {Qt::Key_S, ctrlKey, "Ctrl+S", "上書き保存"},
-            {Qt::Key_Eisu_toggle, {}, "", ""},
-            {Qt::Key_Backtab, Qt::ShiftModifier, "", ""},
-        };
+        // Qt key|modifiers (test::modifiersOf)|text shown|owner named
+        const QString presses = QStringLiteral(
+            "Key_Control|C||; Key_S|C|Ctrl+S|上書き保存; Key_Shift||Ctrl+S|上書き保存; "
+            "Key_Alt||Ctrl+S|上書き保存; Key_Left||Ctrl+S|上書き保存; Key_Up||Ctrl+S|上書き保存; "
+            "Key_Right||Ctrl+S|上書き保存; Key_Down||Ctrl+S|上書き保存; "
+            "Key_Super_L||Ctrl+S|上書き保存; "
+            "Key_Super_R||Ctrl+S|上書き保存; Key_Menu||Ctrl+S|上書き保存; "
+            "Key_NumLock||Ctrl+S|上書き保存; "
+            "Key_5|KC|Ctrl+Num 5|; Key_F10||F10|; Key_X|A|Alt+X|; "
+            "Key_Exclam|CS|Ctrl+Shift+1|; Key_Delete||Del|削除; Key_Tab|||; "
+            "Key_S|C|Ctrl+S|上書き保存; Key_Return|||; Key_S|C|Ctrl+S|上書き保存; Key_Enter|||; "
+            "Key_Delete||Del|削除; Key_Escape|||; Key_S|C|Ctrl+S|上書き保存; Key_F1|||; "
+            "Key_S|C|Ctrl+S|上書き保存; Key_Muhenkan|||; Key_S|C|Ctrl+S|上書き保存; "
+            "Key_Eisu_toggle|||; Key_Backtab|S||");
         ScopedModalDrivers drivers([&](CKsDialog& d) {
             editOf(d).setFocus();
-            for (const auto& p : presses) {
-                press(d, p.key, p.modifiers);
-                const QString shown = QString::fromUtf8(p.shown);
-                QCOMPARE(editOf(d).text(), shown);
-                const QString owner = QString::fromUtf8(p.owner);
-                QCOMPARE(ownerOf(d), owner.isEmpty() ? owner : "現在の割り当て\n" + owner);
+            for (const QString& entry : presses.split(QStringLiteral("; "))) {
+                const QStringList p = entry.split(u'|');
+                press(d, test::keyNamed(p[0]), test::modifiersOf(p[1]));
+                QCOMPARE(editOf(d).text(), p[2]);
+                QCOMPARE(ownerOf(d), p[3].isEmpty() ? p[3] : "現在の割り当て\n" + p[3]);
                 QVERIFY(editOf(d).hasFocus() || !QApplication::focusWidget());
                 QVERIFY(!d.isEnded());
             }

@@ -65,61 +65,28 @@ class TestShortCutModel : public QObject {
     Q_OBJECT
 
 private slots:
-    // Keypad keys by the keypad modifier, shifted symbols to the key that carries them.
+    // Keypad keys by the keypad modifier (home and clear with num lock off), shifted symbols to
+    // the key that carries them.
     void qtKeysMapToVirtualKeys()
     {
-        const int keypad = Qt::KeypadModifier, shift = Qt::ShiftModifier;
-        const std::tuple<int, int, int> keys[] = {
-            {Qt::Key_S, 0, 0x53},
-            {Qt::Key_Z, shift, 0x5A},
-            {Qt::Key_7, 0, 0x37},
-            {Qt::Key_Exclam, shift, 0x31},
-            {Qt::Key_ParenRight, shift, 0x30},
-            {Qt::Key_F1, 0, 0x70},
-            {Qt::Key_F13, 0, 0x7C},
-            {Qt::Key_F24, 0, 0x87},
-            {Qt::Key_0, keypad, 0x60},
-            {Qt::Key_9, keypad, 0x69},
-            {Qt::Key_Asterisk, keypad, 0x6A},
-            {Qt::Key_Plus, keypad, 0x6B},
-            {Qt::Key_Minus, keypad, 0x6D},
-            {Qt::Key_Period, keypad, 0x6E},
-            {Qt::Key_Slash, keypad, 0x6F},
-            {Qt::Key_Enter, keypad, 0x0D},
-            {Qt::Key_Home, keypad, 0x24},
-            {Qt::Key_Clear, keypad, 0x0C}, // num lock off
-            {Qt::Key_Home, 0, 0x24},
-            {Qt::Key_End, 0, 0x23},
-            {Qt::Key_PageUp, 0, 0x21},
-            {Qt::Key_PageDown, 0, 0x22},
-            {Qt::Key_Insert, 0, 0x2D},
-            {Qt::Key_Delete, 0, 0x2E},
-            {Qt::Key_Backspace, 0, 0x08},
-            {Qt::Key_Backtab, shift, 0x09},
-            {Qt::Key_Minus, 0, 0xBD},
-            {Qt::Key_Underscore, shift, 0xBD},
-            {Qt::Key_Semicolon, 0, 0xBA},
-            {Qt::Key_Colon, shift, 0xBA},
-            {Qt::Key_Equal, 0, 0xBB},
-            {Qt::Key_Comma, 0, 0xBC},
-            {Qt::Key_Period, 0, 0xBE},
-            {Qt::Key_Slash, 0, 0xBF},
-            {Qt::Key_QuoteLeft, 0, 0xC0},
-            {Qt::Key_BracketLeft, 0, 0xDB},
-            {Qt::Key_Backslash, 0, 0xDC},
-            {Qt::Key_yen, 0, 0xDC},
-            {Qt::Key_BracketRight, 0, 0xDD},
-            {Qt::Key_Apostrophe, 0, 0xDE},
-            {Qt::Key_Muhenkan, 0, 0x1D},
-            {Qt::Key_Eisu_toggle, 0, 0xF0},
-            {Qt::Key_Super_L, 0, 0x5B},
-            {Qt::Key_Menu, 0, 0x5D},
-            {Qt::Key_NumLock, 0, 0x90},
-            {Qt::Key_unknown, 0, 0},
-        };
-        for (const auto& [key, modifiers, vk] : keys) {
-            const int got = virtualKeyOf(key, Qt::KeyboardModifiers(modifiers));
-            QCOMPARE(std::tuple(key, modifiers, got), std::tuple(key, modifiers, vk));
+        // Qt key, modifiers (test::modifiersOf; - for none), virtual key in hex.
+        const QString keys = QStringLiteral(
+            "Key_S - 53, Key_Z S 5A, Key_7 - 37, Key_Exclam S 31, Key_ParenRight S 30, "
+            "Key_F1 - 70, Key_F13 - 7C, Key_F24 - 87, Key_0 K 60, Key_9 K 69, Key_Asterisk K 6A, "
+            "Key_Plus K 6B, Key_Minus K 6D, Key_Period K 6E, Key_Slash K 6F, Key_Enter K 0D, "
+            "Key_Home K 24, Key_Clear K 0C, Key_Home - 24, Key_End - 23, Key_PageUp - 21, "
+            "Key_PageDown - 22, Key_Insert - 2D, Key_Delete - 2E, Key_Backspace - 08, "
+            "Key_Backtab S 09, Key_Minus - BD, Key_Underscore S BD, Key_Semicolon - BA, "
+            "Key_Colon S BA, Key_Equal - BB, Key_Comma - BC, Key_Period - BE, Key_Slash - BF, "
+            "Key_QuoteLeft - C0, Key_BracketLeft - DB, Key_Backslash - DC, Key_yen - DC, "
+            "Key_BracketRight - DD, Key_Apostrophe - DE, Key_Muhenkan - 1D, "
+            "Key_Eisu_toggle - F0, Key_Super_L - 5B, Key_Menu - 5D, Key_NumLock - 90, "
+            "Key_unknown - 00");
+        for (const QString& entry : keys.split(QStringLiteral(", "))) {
+            const QStringList parts = entry.split(u' ');
+            const int vk = virtualKeyOf(test::keyNamed(parts[0]), test::modifiersOf(parts[1]));
+            const QString hex = QString::number(vk, 16).toUpper().rightJustified(2, u'0');
+            QCOMPARE(parts[0] + u' ' + parts[1] + u' ' + hex, entry);
         }
         const QKeyEvent ctrlShiftS(QEvent::KeyPress, Qt::Key_S,
                                    Qt::ControlModifier | Qt::ShiftModifier);

@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QDomDocument>
 #include <QFile>
+#include <QMetaEnum>
 #include <QMouseEvent>
 #include <QSettings>
 #include <QTabBar>
@@ -97,6 +98,25 @@ void doubleClick(QWidget* widget, const QPoint& at)
                       Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(widget, &event);
     QTest::mouseRelease(widget, Qt::LeftButton, {}, at);
+}
+
+Qt::Key keyNamed(const QString& name)
+{
+    bool found = false;
+    const int key = QMetaEnum::fromType<Qt::Key>().keyToValue(name.toLatin1(), &found);
+    if (!found)
+        qFatal("no key %s", qPrintable(name));
+    return Qt::Key(key);
+}
+
+Qt::KeyboardModifiers modifiersOf(const QString& letters)
+{
+    Qt::KeyboardModifiers out;
+    out.setFlag(Qt::ControlModifier, letters.contains(u'C'));
+    out.setFlag(Qt::ShiftModifier, letters.contains(u'S'));
+    out.setFlag(Qt::AltModifier, letters.contains(u'A'));
+    out.setFlag(Qt::KeypadModifier, letters.contains(u'K'));
+    return out;
 }
 
 QString dataFile(const QString& relative)

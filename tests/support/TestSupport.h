@@ -77,6 +77,10 @@ void pressCancel(ui::framework::CKsDialog& dialog);
 // item views need).
 void doubleClick(QWidget* widget, const QPoint& at);
 
+// A key by its Qt name ("Key_S"), and modifiers by letters: C Ctrl, S Shift, A Alt, K keypad.
+Qt::Key keyNamed(const QString& name);
+Qt::KeyboardModifiers modifiersOf(const QString& letters);
+
 // A file of the test data (tests/data, or KS_DATA_DIR).
 QString dataFile(const QString& relative);
 // A whole file read (empty when it cannot be) or written (false when it cannot be).

@@ -1,10 +1,12 @@
-// "共通設定" end to end through doDrawCommonDlg: what it opens with, how each control is stored,
-// the copy back after every result, the reference request and the null record.
+// "共通設定": its rules without widgets at their boundaries, then end to end through
+// doDrawCommonDlg: what it opens with, how each control is stored, the copy back after every
+// result, the reference request and the null record.
 #include "support/TestSupport.h"
 
 #include "config/DrawEntries.h"
 #include "control/SystemColorComboBox.h"
 #include "db/MemoryDataBase.h"
+#include "draw/DrawCommonRules.h"
 #include "framework/ColorChooser.h"
 #include "framework/ModalHook.h"
 #include "setting/SystemColorSetting.h"
@@ -21,6 +23,7 @@ using namespace kesto;
 using namespace kesto::ui::framework;
 using kesto::test::click;
 using kesto::test::isEnabled;
+using namespace kesto::ui::config::drawcommonrules;
 using ui::config::SDrawCommonDlgData;
 using ui::setting::CDrawCommonSetting;
 
@@ -43,6 +46,7 @@ struct Host : test::HostFixture {
         db.add<KsScale>(L"横断 1/200", 1.0, 200.0);
         db.add<KsLayer>(L"道路中心線");
         db.add<KsLayer>(L"構造物");
+        db.add<KsLayer>(L""); // a layer without a name cannot be chosen
         db.add<KsLayer>(L"構造物 (旧)");
         config().setCurrentDataBase(&db);
     }
@@ -114,6 +118,58 @@ class TestDrawCommonDlg : public QObject {
     Q_OBJECT
 
 private slots:
+    // Entries beyond the table (the picker, "other", no selection) change nothing; by-layer
+    // entries set their modes and keep the values for a later choice.
+    void colourAndLineTypeAreStoredByIndex()
+    {
+        const KsColor invalid(0xFFFFFF, -1);
+        CDrawCommonSetting s = styled();
+        storeColor(s, -1, KsColor(0x00FF00, KsColor::System), invalid);
+        storeColor(s, 5, invalid, invalid);
+        storeLineType(s, 4, nullptr);
+        storeLineType(s, -1, nullptr);
+        QVERIFY(s.isSame(styled()));
+        storeColor(s, 0, KsColor::byLayer(), invalid);
+        storeLineType(s, 0, nullptr);
+        QVERIFY(s.getColor() == styled().getColor() && colorToSelect(s).isByLayer());
+        QVERIFY(lineTypeToSelect(s).isByLayer());
+        storeColor(s, 1, KsColor(0x00FF00, KsColor::System, L"緑"), invalid);
+        QVERIFY(colorToSelect(s) == KsColor(0x00FF00, KsColor::System, L"緑"));
+        const KsLineType center(KsLineType::kFirstDrawingId + 2, L"CENTER");
+        storeLineType(s, 7, &center);
+        QVERIFY(lineTypeToSelect(s) == center);
+        // The open drawing's line type of that name lends its dashes, the stored id stays.
+        CMemoryDataBase db;
+        const std::vector<double> dashes{6.0, -1.0, 1.0, -1.0};
+        db.add<KsLineType>(KsLineType::kFirstDrawingId + 7, L"CENTER", KsLineType::Pattern, dashes);
+        const KsLineType shown = lineTypeToSelect(s, &db);
+        QVERIFY(shown.getId() == center.getId() && shown.getDashes() == dashes);
+        QCOMPARE(shown.getKind(), int(KsLineType::Pattern));
+        // Names only where something is chosen in a list the record has.
+        SDrawCommonDlgData data = record(false);
+        storeName(data, ListCoordinateSystem, {-1, L"平面直角座標系 IX"});
+        storeName(data, ListScale, {0, L"1/500"});
+        storeName(data, ListCount, {0, L"外"});
+        QCOMPARE(names(data), QStringLiteral("ローカル座標|1/500|構造物"));
+    }
+
+    void widthKindFollowsTheIndexAndTheWidthIsAlwaysStored()
+    {
+        const std::pair<int, int> kinds[] = {{0, 1}, {1, 2},  {3, 4},
+                                             {4, 0}, {12, 0}, {-1, CDrawCommonSetting::WidthBold}};
+        for (const auto& [index, kind] : kinds) {
+            CDrawCommonSetting s = styled();
+            storeLineWidth(s, index, 0.7);
+            QCOMPARE(std::pair(index, s.getWidthKind()), std::pair(index, kind));
+            QCOMPARE(s.getWidth(), 0.7);
+        }
+        CDrawCommonSetting s = styled();
+        s.setWidthKind(9); // unknown kinds open as an explicit width
+        QVERIFY(lineWidthToSelect(s) == KsLineWidth(0.35, KsLineWidth::Explicit));
+        s.setWidthKind(CDrawCommonSetting::WidthExtraBold);
+        QCOMPARE(lineWidthToSelect(s).getKind(), int(KsLineWidth::ExtraBold));
+    }
+
     void initTestCase()
     {
         QVERIFY(ui::tooltip::ToolTipCatalog::instance().loadXML(

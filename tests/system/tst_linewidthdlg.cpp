@@ -16,6 +16,7 @@ using namespace kesto::ui::framework;
 using kesto::test::choose;
 using kesto::test::click;
 using kesto::test::columnTexts;
+using kesto::test::ctrl;
 using kesto::test::isEnabled;
 using kesto::test::isShown;
 using kesto::test::itemTexts;
@@ -48,10 +49,6 @@ CLineWidthSetting fourWidths()
     return setting;
 }
 
-QTabBar& tabOf(CKsDialog& d)
-{
-    return test::ctrl<QTabBar>(d, Tab);
-}
 QComboBox& combo(CKsDialog& d, int id)
 {
     return test::ctrl<QComboBox>(d, id);
@@ -90,7 +87,7 @@ private slots:
         CLineWidthSetting setting = fourWidths();
         ScopedModalDrivers drivers([](CKsDialog& d) {
             QCOMPARE(d.windowTitle(), QStringLiteral("線幅の設定"));
-            QCOMPARE(test::tabTexts(tabOf(d)), QStringList{"システム"});
+            QCOMPARE(test::tabTexts(ctrl<QTabBar>(d, Tab)), QStringList{"システム"});
             CKsListCtrl& list = listOf(d);
             QCOMPARE(test::headerTexts(list).mid(1), QStringList({"幅", "色"}));
             QCOMPARE(list.columnWidth(0), 15);
@@ -223,9 +220,16 @@ private slots:
         auto widths = setting.getLineWidths();
         widths.emplace_back(0.25, 0, 1, L"黒");
         setting.setUserLineWidths(widths);
-        ScopedModalDrivers drivers([&](CKsDialog& d) {
-            QCOMPARE(test::tabTexts(tabOf(d)), QStringList({"システム", "図面内"}));
-            tabOf(d).setCurrentIndex(1);
+        const CLineWidthSetting before = setting;
+        ScopedModalDrivers drivers([](CKsDialog& d) { // Cancel leaves the drawing alone
+            ctrl<QTabBar>(d, Tab).setCurrentIndex(1);
+            listOf(d).commitCellText(0, 1, QStringLiteral("2"));
+            choose(combo(d, Thin), 1);
+            test::pressCancel(d);
+        });
+        drivers.add([&](CKsDialog& d) {
+            QCOMPARE(test::tabTexts(ctrl<QTabBar>(d, Tab)), QStringList({"システム", "図面内"}));
+            ctrl<QTabBar>(d, Tab).setCurrentIndex(1);
             CKsListCtrl& list = listOf(d);
             QCOMPARE(columnTexts(list, 1), QStringList({"0.25", "0.8"}));
             QCOMPARE(columnTexts(list, 0), QStringList({"", ""}));
@@ -250,11 +254,17 @@ private slots:
             QVERIFY(list.commitCellColor(1, 2, 0x00A000));
             choose(combo(d, Bold), 1);
 
-            tabOf(d).setCurrentIndex(0);
+            ctrl<QTabBar>(d, Tab).setCurrentIndex(0);
             QCOMPARE(columnTexts(listOf(d), 1).last(), QStringLiteral("0.8"));
             QVERIFY(!isShown(d, Register));
             test::pressOk(d);
         });
+        QVERIFY(!doLineWidthDlg(setting, {}, &drawing.db));
+        QCOMPARE(drawing.red->getWidth(), 0.25);
+        KsLineWidth kind;
+        QVERIFY(drawing.db.getLineWidthOfKind(KsLineWidth::Thin, kind) && kind.getWidth() == 0.18);
+        QVERIFY(drawing.db.getChangeRecord().empty() && setting.isSame(before));
+
         QVERIFY(doLineWidthDlg(setting, {}, &drawing.db));
         QCOMPARE(names(setting), QStringList({"0.13", "0.18", "0.3", "0.6", "0.25", "0.8"}));
         QVERIFY(setting.getLineWidths().back().getColorName() == L"白");
@@ -262,7 +272,6 @@ private slots:
         QVERIFY(drawing.red->getName() == L"0.18");
         QCOMPARE(drawing.white->getColor(), 0x00A000u);
         QVERIFY(drawing.white->getColorName() == L"緑");
-        KsLineWidth kind;
         QVERIFY(drawing.db.getLineWidthOfKind(KsLineWidth::Bold, kind));
         QCOMPARE(kind.getWidth(), 0.8);
         QCOMPARE(kind.getColor(), 0x00A000u);
@@ -271,26 +280,6 @@ private slots:
         // Once by the dialog, once by the entry function.
         QCOMPARE(drawing.db.getChangeRecord(),
                  (std::vector<std::wstring>{L"線幅設定", L"線幅設定"}));
-    }
-
-    void cancelLeavesTheDrawingAlone()
-    {
-        test::HostFixture host;
-        Drawing drawing;
-        CLineWidthSetting setting = fourWidths();
-        ScopedModalDrivers drivers([](CKsDialog& d) {
-            tabOf(d).setCurrentIndex(1);
-            listOf(d).commitCellText(0, 1, QStringLiteral("2"));
-            choose(combo(d, Thin), 1);
-            test::pressCancel(d);
-        });
-        QVERIFY(!doLineWidthDlg(setting, {}, &drawing.db));
-        QCOMPARE(drawing.red->getWidth(), 0.25);
-        KsLineWidth thin;
-        drawing.db.getLineWidthOfKind(KsLineWidth::Thin, thin);
-        QCOMPARE(thin.getWidth(), 0.18);
-        QVERIFY(drawing.db.getChangeRecord().empty());
-        QVERIFY(setting.isSame(fourWidths()));
     }
 };
 

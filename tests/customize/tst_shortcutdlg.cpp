@@ -6,6 +6,7 @@
 #include "command/CommandTree.h"
 #include "config/CustomizeEntries.h"
 #include "control/KsListCtrl.h"
+#include "customize/ShortCutRules.h"
 #include "framework/ModalHook.h"
 
 #include <QKeyEvent>
@@ -221,6 +222,7 @@ private slots:
             test::pressCancel(d);
         });
         QVERIFY(!run(setting));
+        QCOMPARE(ui::config::shortcutrules::ownerText({}), QString()); // a nameless owner
     }
 
     void assigningAKeyOfAnotherCommandMovesIt()

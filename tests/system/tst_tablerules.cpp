@@ -46,6 +46,8 @@ private slots:
         QTest::newRow("comma is no point") << "1,5" << 1.0 << 1;
         QTest::newRow("too large")
             << "99999999999" << 99999999999.0 << std::numeric_limits<int>::max();
+        QTest::newRow("too small")
+            << "-99999999999" << -99999999999.0 << std::numeric_limits<int>::min();
     }
     void typedTextIsReadAsTheCLibraryReadsNumbers()
     {

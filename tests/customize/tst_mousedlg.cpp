@@ -676,6 +676,7 @@ private slots:
             QVERIFY(checked(page(d, Both2D), RadioSecond));
             QVERIFY(click(d, Reset)); // answered with OK
             QVERIFY(checked(page(d, Both2D), RadioFirst));
+            QVERIFY(!checked(page(d, Both2D), RadioSecond));
             QCOMPARE(combo(page(d, Wheel2D), WheelDrag).currentText(),
                      QStringLiteral("スムーズスクロール"));
             QVERIFY(checked(page(d, Right2D), ShowMenu));

@@ -10,6 +10,7 @@
 
 #include <QTest>
 
+#include <climits>
 #include <limits>
 
 using namespace kesto::ui::config;
@@ -48,6 +49,8 @@ private slots:
             << "99999999999" << 99999999999.0 << std::numeric_limits<int>::max();
         QTest::newRow("too small")
             << "-99999999999" << -99999999999.0 << std::numeric_limits<int>::min();
+        QTest::newRow("past 64 bits") << "99999999999999999999" << 1e20 << INT_MAX;
+        QTest::newRow("past 64 bits below") << "-99999999999999999999" << -1e20 << INT_MIN;
     }
     void typedTextIsReadAsTheCLibraryReadsNumbers()
     {

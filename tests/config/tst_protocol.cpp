@@ -1,10 +1,11 @@
 // The modal protocol shared by every entry function: copy rules of the variants, the reset
-// copy, and the resource switch around the dialog on every path.
+// copy, and the resource switch around the dialog on every path; and the exported
+// dialog-data records with the intended differences between their clear() operations.
 #include "support/TestSupport.h"
 
+#include "config/DialogData.h"
 #include "config/LibraryModule.h"
 #include "config/ModalProtocol.h"
-#include "config/SystemEntries.h"
 #include "framework/ModalHook.h"
 
 #include <QPushButton>
@@ -13,8 +14,7 @@
 
 using namespace kesto;
 using namespace kesto::ui::framework;
-using kesto::ui::config::CopyBack;
-using kesto::ui::config::runSettingDialog;
+using namespace kesto::ui::config;
 
 Q_DECLARE_METATYPE(CopyBack)
 
@@ -81,11 +81,8 @@ struct Fixture {
 bool run(TestSetting& setting, CopyBack rule, ModalHook::Driver driver)
 {
     ScopedModalDrivers drivers(std::move(driver));
-    const TestSetting reset = [] {
-        TestSetting r;
-        r.value = 99;
-        return r;
-    }();
+    TestSetting reset;
+    reset.value = 99;
     return runSettingDialog<TestDialog>(setting, &reset, rule);
 }
 
@@ -93,6 +90,80 @@ void editThenOk(CKsDialog& d)
 {
     QVERIFY(test::click(d, kEditButton));
     QVERIFY(test::click(d, IDOK));
+}
+
+// Every field of a record as text: the base's request code and flag first.
+QString text(const ui::refDlg::SRefDlgData& b)
+{
+    return QString::number(b.requestCode) + (b.referenceEnabled ? "+|" : "-|");
+}
+QString text(const std::wstring& name, bool flag)
+{
+    return QString::fromStdWString(name) + (flag ? "+" : "-");
+}
+QString text(const SDrawCommonDlgData& d)
+{
+    return text(static_cast<const ui::refDlg::SRefDlgData&>(d))
+           + QString::fromStdWString(d.coordinateSystemName + L"," + d.scaleName + L","
+                                     + d.layerName);
+}
+QString text(const SDrawDimensionDlgData& d)
+{
+    QString out;
+    for (std::size_t i = 0; i < SDrawDimensionDlgData::kCount; ++i)
+        out += text(d.names[i], d.flags[i]);
+    return out;
+}
+QString text(const SDrawPointDlgData& d)
+{
+    return text(static_cast<const ui::refDlg::SRefDlgData&>(d)) + QString::number(d.sampleSource);
+}
+QString text(const SDrawTextDlgData& d)
+{
+    return text(d.layerName, d.keepLayer);
+}
+QString text(const SDrawLeaderDlgData& d)
+{
+    return text(static_cast<const ui::refDlg::SRefDlgData&>(d)) + text(d.layerName, d.keepLayer);
+}
+QString text(const SDrawVirtualElementDlgData& d)
+{
+    QString out = QString::number(d.value);
+    for (const auto& entry : d.list)
+        out += u',' + QString::fromStdWString(entry);
+    return out;
+}
+
+// A copy constructed from the record, one assigned from it and the record assigned to itself
+// all hold what it holds; a default record, and the record after its own clear(), hold what
+// is told.
+template <class Record>
+void checkRecord(Record record, const QString& fresh, const QString& filled, const QString& cleared)
+{
+    QCOMPARE(text(Record()), fresh);
+    QCOMPARE(text(record), filled);
+    const Record constructed(record);
+    Record assigned;
+    assigned = record;
+    Record self = record;
+    const Record& alias = self;
+    self = alias;
+    for (const Record* copy : std::initializer_list<const Record*>{&constructed, &assigned, &self})
+        QCOMPARE(text(*copy), filled);
+    if constexpr (std::is_base_of_v<ui::refDlg::SRefDlgData, Record>)
+        static_cast<ui::refDlg::SRefDlgData&>(record).clear(); // the record's own, virtual
+    else
+        record.clear();
+    QCOMPARE(text(record), cleared);
+}
+
+template <class Record>
+Record withBase()
+{
+    Record record;
+    record.requestCode = 2;
+    record.referenceEnabled = true;
+    return record;
 }
 
 } // namespace
@@ -136,20 +207,18 @@ private slots:
         QCOMPARE(TestDialog::resetValueSeen, 99);
     }
 
-    void libraryResourcesAreCurrentWhileTheDialogRuns()
+    // The library's resources are current while the dialog runs; the host's come back on
+    // every path, a throwing handler and a dialog that cannot run included.
+    void resourcesAreSwitchedAroundTheDialog()
     {
         Fixture f;
         TestSetting setting;
+        setting.value = 5;
         run(setting, CopyBack::OnOk, editThenOk);
         QVERIFY(ui::config::libraryResourceHandle() != nullptr);
         QCOMPARE(TestDialog::handleWhileOpen, ui::config::libraryResourceHandle());
         QCOMPARE(ResourceChain::instance().current(), &f.hostModule);
-    }
 
-    void resourcesComeBackWhenTheDialogThrows()
-    {
-        Fixture f;
-        TestSetting setting;
         setting.value = 5;
         QVERIFY_THROWS_EXCEPTION(std::runtime_error,
                                  run(setting, CopyBack::Always, [](CKsDialog& d) {
@@ -158,14 +227,8 @@ private slots:
                                  }));
         QCOMPARE(ResourceChain::instance().current(), &f.hostModule);
         QCOMPARE(setting.value, 5);
-    }
 
-    void aDialogThatCannotRunChangesNothing()
-    {
-        Fixture f;
         ResourceChain::instance().remove(&f.module); // its layout is gone
-        TestSetting setting;
-        setting.value = 5;
         QVERIFY(!run(setting, CopyBack::OnOk, editThenOk));
         QCOMPARE(setting.value, 5);
         QCOMPARE(ResourceChain::instance().current(), &f.hostModule);
@@ -183,6 +246,34 @@ private slots:
         ResourceSwitch use(library);
         QCOMPARE(loadString(6006), QStringLiteral("既に同じ線幅がシステム設定に存在しています。"));
         QCOMPARE(loadString(6899), QStringLiteral("Couldn't find Resource(id = 6899)."));
+    }
+
+    void recordsCopyEverythingAndClearByTheirOwnRule()
+    {
+        auto common = withBase<SDrawCommonDlgData>();
+        common.coordinateSystemName = L"平面直角座標系 IX";
+        common.scaleName = L"1/500";
+        common.layerName = L"構造物";
+        checkRecord(common, "0-|,,", "2+|平面直角座標系 IX,1/500,構造物", "2+|,,");
+        auto leader = withBase<SDrawLeaderDlgData>();
+        leader.layerName = L"引出線";
+        leader.keepLayer = false;
+        checkRecord(leader, "0-|+", "2+|引出線-", "0-|+");
+        auto point = withBase<SDrawPointDlgData>();
+        point.sampleSource = 0x1234'5678'9ABCull;
+        checkRecord(point, "0-|0", "2+|20015998343868", "2+|0");
+        SDrawDimensionDlgData dimension;
+        dimension.names[6] = L"寸法";
+        dimension.flags[3] = false;
+        checkRecord(dimension, "+++++++", "+++-++寸法+", "+++++++");
+        SDrawTextDlgData textRecord;
+        textRecord.keepLayer = false;
+        textRecord.layerName = L"文字";
+        checkRecord(textRecord, "+", "文字-", "+");
+        SDrawVirtualElementDlgData virtualElement;
+        virtualElement.value = 42;
+        virtualElement.list = {L"a", L"b"};
+        checkRecord(virtualElement, "0", "42,a,b", "0,a,b");
     }
 };
 

@@ -3,6 +3,7 @@
 #include "support/TestSupport.h"
 
 #include "framework/AccessibleNames.h"
+#include "framework/HandlerGuard.h"
 #include "framework/MessageBox.h"
 #include "framework/ModalHook.h"
 #include "framework/Resources.h"
@@ -78,39 +79,31 @@ class TestFramework : public QObject {
     Q_OBJECT
 
 private slots:
+    // The current module first, then the chain; a module refuses a table or layout that
+    // clashes with its own, taking nothing of it.
     void stringsResolveCurrentModuleFirstThenTheChain()
     {
         TestModule first;
         ResourceModule second(QStringLiteral("second"));
         static const StringEntry secondStrings[] = {{1, "いち"}, {3, "三"}};
+        static const StringEntry clash[] = {{4, "四"}, {3, "c"}};
         QVERIFY(second.addStrings(secondStrings, 2));
+        QVERIFY(!second.addStrings(clash, 2));
+        QVERIFY(!second.findString(4));
+        QVERIFY(second.addLayout(1, &buildTestLayout));
+        QVERIFY(!second.addLayout(1, &buildTestLayout));
         QVERIFY(ResourceChain::instance().add(&second));
         QVERIFY(!ResourceChain::instance().add(&second));
 
-        QCOMPARE(loadString(1), QStringLiteral("一"));
-        QCOMPARE(loadString(3), QStringLiteral("三"));
+        QCOMPARE(loadString(1) + loadString(3), QStringLiteral("一三"));
         {
             ResourceSwitch use(&second);
-            QCOMPARE(loadString(1), QStringLiteral("いち"));
-            QCOMPARE(loadString(2), QStringLiteral("二"));
+            QCOMPARE(loadString(1) + loadString(2), QStringLiteral("いち二"));
         }
         QCOMPARE(loadString(1), QStringLiteral("一"));
         QCOMPARE(loadString(31999), QStringLiteral("Couldn't find Resource(id = 31999)."));
         QVERIFY(!hasString(31999));
         ResourceChain::instance().remove(&second);
-    }
-
-    void aModuleRefusesAClashingTable()
-    {
-        ResourceModule module(QStringLiteral("m"));
-        static const StringEntry a[] = {{5, "a"}};
-        static const StringEntry clash[] = {{6, "b"}, {5, "c"}};
-        QVERIFY(module.addStrings(a, 1));
-        QVERIFY(!module.addStrings(clash, 2));
-        QVERIFY(!module.findString(6)); // nothing of the refused table was taken
-        QCOMPARE(*module.findString(5), QStringLiteral("a"));
-        QVERIFY(module.addLayout(1, &buildTestLayout));
-        QVERIFY(!module.addLayout(1, &buildTestLayout));
     }
 
     void resourceSwitchRestoresOnEveryPath()
@@ -137,18 +130,23 @@ private slots:
 
     void formatTextFillsConversionsInOrderAndNeverInterpretsArguments()
     {
-        QCOMPARE(formatText(QStringLiteral("%d 行目\n名称が重複しています\n重複名：%s"),
-                            {3, QStringLiteral("A-1")}),
-                 QStringLiteral("3 行目\n名称が重複しています\n重複名：A-1"));
-        QCOMPARE(formatText(QStringLiteral("%s と %d"), {QStringLiteral("%d%s"), 7}),
-                 QStringLiteral("%d%s と 7"));
-        QCOMPARE(formatText(QStringLiteral("100%% %d"), {1}), QStringLiteral("100% 1"));
-        QCOMPARE(formatText(QStringLiteral("%d %d"), {1}), QStringLiteral("1 "));
-        QCOMPARE(formatText(QStringLiteral("末尾%"), {}), QStringLiteral("末尾%"));
+        const std::tuple<const char*, QVariantList, const char*> cases[] = {
+            {"%d 行目\n名称が重複しています\n重複名：%s",
+             {3, QStringLiteral("A-1")},
+             "3 行目\n名称が重複しています\n重複名：A-1"},
+            {"%s と %d", {QStringLiteral("%d%s"), 7}, "%d%s と 7"},
+            {"100%% %d", {1}, "100% 1"},
+            {"%d %d", {1}, "1 "},
+            {"末尾%", {}, "末尾%"},
+        };
+        for (const auto& [format, arguments, expected] : cases)
+            QCOMPARE(formatText(QString::fromUtf8(format), arguments), QString::fromUtf8(expected));
     }
 
+    // Built from the chain, controls found by number; without its layout it cannot run.
     void dialogIsBuiltFromTheChainAndFindsControlsByNumber()
     {
+        kesto::test::HostFixture host;
         TestModule module;
         CountingDialog dialog;
         QVERIFY(dialog.hasLayout());
@@ -156,19 +154,15 @@ private slots:
         QCOMPARE(dialog.dlgItem<QPushButton>(2)->text(), QStringLiteral("キャンセル"));
         QVERIFY(!dialog.GetDlgItem(777));
         QVERIFY(!dialog.dlgItem<QDialog>(4242)); // wrong class
-    }
-
-    void aMissingLayoutFailsTheModalRun()
-    {
-        kesto::test::HostFixture host;
-        CKsDialog dialog(31998);
-        QVERIFY(!dialog.hasLayout());
-        QCOMPARE(dialog.DoModal(), int(IDFAILED));
+        CKsDialog missing(31998);
+        QVERIFY(!missing.hasLayout());
+        QCOMPARE(missing.DoModal(), int(IDFAILED));
         QVERIFY(host.log().contains(
             kesto::core::LogLevel::Error,
             QStringLiteral("dialog layout 31998 not found in the resource chain")));
     }
 
+    // Drivers run in order, one per dialog; one that leaves the dialog open cancels it.
     void queuedDriversRunInOrderAndInitialiseOnce()
     {
         TestModule module;
@@ -178,23 +172,16 @@ private slots:
             QVERIFY(kesto::test::click(d, 1));
         });
         drivers.add([](CKsDialog& d) { QTest::keyClick(&d, Qt::Key_Escape); });
+        drivers.add([](CKsDialog&) {});
         CountingDialog dialog;
         QCOMPARE(dialog.DoModal(), int(IDOK));
         QCOMPARE(dialog.pressed, 1);
         QCOMPARE(dialog.DoModal(), int(IDCANCEL));
-        QCOMPARE(dialog.cancels, 1);
-        QCOMPARE(dialog.inits, 1);
-        QCOMPARE(drivers.pending(), std::size_t(0));
-    }
-
-    void aDriverThatLeavesTheDialogOpenCancelsIt()
-    {
-        TestModule module;
-        ScopedModalDrivers drivers([](CKsDialog&) {});
-        CountingDialog dialog;
         QCOMPARE(dialog.DoModal(), int(IDCANCEL));
-        QCOMPARE(dialog.cancels, 1);
+        QCOMPARE(dialog.cancels, 2);
+        QCOMPARE(dialog.inits, 1);
         QVERIFY(!dialog.isVisible());
+        QCOMPARE(drivers.pending(), std::size_t(0));
     }
 
     void messageBoxesAreRecordedAndAnswered()
@@ -207,9 +194,9 @@ private slots:
                  int(IDYES));
         QCOMPARE(MessageBox(nullptr, QStringLiteral("三"), QString()), int(IDOK));
         QCOMPARE(recorder.count(), std::size_t(3));
-        QCOMPARE(recorder.shown()[0].text, QStringLiteral("本文"));
-        QCOMPARE(recorder.shown()[0].caption, QStringLiteral("題"));
-        QCOMPARE(recorder.shown()[0].type, unsigned(MB_OKCANCEL));
+        const MessageBoxRequest& first = recorder.shown()[0];
+        QCOMPARE(first.caption + u'|' + first.text, QStringLiteral("題|本文"));
+        QCOMPARE(first.type, unsigned(MB_OKCANCEL));
     }
 
     // Names come from the buddy label, the control's own text, the label before it, its tool
@@ -249,21 +236,18 @@ private slots:
         QCOMPARE(keyboardControls(window).size(), expected.size());
     }
 
-    void handlerExceptionsAreLoggedAndRethrown();
+
+    void handlerExceptionsAreLoggedAndRethrown()
+    {
+        kesto::test::HostFixture host;
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, guardHandler("CTestDlg", "OnOK", [] {
+                                     throw std::runtime_error("x");
+                                 }));
+        QVERIFY(host.log().contains(kesto::core::LogLevel::Error,
+                                    QStringLiteral("CTestDlg: OnOK() catch ...")));
+        QCOMPARE(guardHandler("CTestDlg", "OnOK", [] { return 5; }), 5);
+    }
 };
-
-#include "framework/HandlerGuard.h"
-
-void TestFramework::handlerExceptionsAreLoggedAndRethrown()
-{
-    kesto::test::HostFixture host;
-    QVERIFY_THROWS_EXCEPTION(std::runtime_error, guardHandler("CTestDlg", "OnOK", [] {
-                                 throw std::runtime_error("x");
-                             }));
-    QVERIFY(host.log().contains(kesto::core::LogLevel::Error,
-                                QStringLiteral("CTestDlg: OnOK() catch ...")));
-    QCOMPARE(guardHandler("CTestDlg", "OnOK", [] { return 5; }), 5);
-}
 
 QTEST_MAIN(TestFramework)
 #include "tst_framework.moc"

@@ -95,6 +95,14 @@ QDomElement written(const Pattern& p, QDomDocument& doc)
     return root.firstChildElement();
 }
 
+// Loaded from its element into a pattern that differs, it is the same again.
+template <class Pattern>
+bool roundTrips(const Pattern& p, QDomDocument& doc)
+{
+    Pattern loaded;
+    return loaded.loadXMLNode(written(p, doc), nullptr) && loaded == p;
+}
+
 QDomElement parsed(const QString& text)
 {
     QDomDocument doc;
@@ -115,31 +123,20 @@ class TestHatchPatterns : public QObject {
     Q_OBJECT
 
 private slots:
-    void recordsAreClearedWhenBuiltAndPatternsStartFromDefaults()
+    // Resetting a pattern drops its extra lines and inner frames: it is as built.
+    void resettingAPatternMakesItAsBuilt()
     {
-        const SHatchFrame cleared;
-        QVERIFY(!cleared.drawFrame && cleared.lineTypeName.empty() && cleared.lineWidth == 0.0);
-        SHatchFrame reset = cleared;
-        reset.initByDefault();
-        QVERIFY(reset.drawFrame && reset.color.isByLayer() && reset.lineTypeName == L"実線");
-        QCOMPARE(reset.lineWidthKind, int(KsLineWidth::Thin));
-
-        // Resetting a pattern drops its extra lines and inner frames: it is as built.
         SSlantPattern slant = twoLines();
-        slant.initByDefault();
-        QVERIFY(slant == SSlantPattern());
-        QCOMPARE(slant.lines.size(), std::size_t(1));
-        QVERIFY(slant.lines[0].spacing > 0.0);
-        QVERIFY(slant.outerFrame == reset && slant.innerFrames.empty());
         SFigurePattern figure = tiles();
-        figure.initByDefault();
-        QVERIFY(figure == SFigurePattern());
         SCoatingPattern coating = fill();
-        coating.initByDefault();
-        QVERIFY(coating == SCoatingPattern());
         SHoldPattern hold;
         giveFrames(hold);
+        slant.initByDefault();
+        figure.initByDefault();
+        coating.initByDefault();
         hold.initByDefault();
+        QVERIFY(slant == SSlantPattern() && slant.lines.size() == 1 && slant.innerFrames.empty());
+        QVERIFY(figure == SFigurePattern() && coating == SCoatingPattern());
         QVERIFY(hold == SHoldPattern());
     }
 
@@ -148,9 +145,8 @@ private slots:
         SFigurePattern figure;
         figure.copyWithoutAttribute(tiles());
         QVERIFY(figure.name == L"ブロック積み" && figure.baseFigureName == L"レンガ");
-        QVERIFY(figure.placement == tiles().placement);
+        QVERIFY(figure.placement == tiles().placement && figure.innerFrames.empty());
         QVERIFY(figure.outerFrame == SFigurePattern().outerFrame);
-        QVERIFY(figure.innerFrames.empty());
 
         // Three source lines onto two: the third takes the last line's attributes.
         SSlantPattern slant = twoLines();
@@ -159,29 +155,24 @@ private slots:
         source.lines = {line(0.0, 3.0, kGreen), line(60.0, 4.0, kGreen), line(120.0, 5.0, kGreen)};
         slant.copyWithoutAttribute(source);
         QVERIFY(slant.name == L"三方向");
-        QCOMPARE(slant.lines.size(), std::size_t(3));
-        QVERIFY(slant.lines[0].color == kRed);
-        QVERIFY(slant.lines[1].color == kGreen);
-        QVERIFY(slant.lines[2].color == kGreen);
-        QCOMPARE(slant.lines[2].angle, 120.0);
-        QCOMPARE(slant.lines[2].spacing, 5.0);
-        QVERIFY(slant.outerFrame == twoLines().outerFrame);
-        QCOMPARE(slant.innerFrames.size(), std::size_t(2));
+        QVERIFY(slant.lines
+                == std::vector(
+                    {line(0.0, 3.0, kRed), line(60.0, 4.0, kGreen), line(120.0, 5.0, kGreen)}));
+        QVERIFY(slant.outerFrame == twoLines().outerFrame && slant.innerFrames.size() == 2);
 
         SSlantPattern empty;
         empty.lines.clear();
         empty.copyWithoutAttribute(source);
-        QVERIFY(empty.lines[0].color.isByLayer()); // the default line's colour
-        QCOMPARE(empty.lines[0].spacing, 3.0);
+        QVERIFY(empty.lines[0].color.isByLayer() && empty.lines[0].spacing == 3.0);
 
         SCoatingPattern coating;
         coating.copyWithoutAttribute(fill());
-        QVERIFY(coating.name == L"水面");
-        QCOMPARE(coating.brushKind, 11);
-        QVERIFY(coating.transparent && coating.drawAtBack);
-        QCOMPARE(coating.drawOrder, int(SCoatingPattern::Opaque));
-        QVERIFY(coating.color == SCoatingPattern().color && !coating.sameAsBackground);
-        QVERIFY(coating.innerFrame == SCoatingPattern().innerFrame);
+        SCoatingPattern expected = fill(); // with the colour and frames it had
+        expected.color = coating.color;
+        expected.sameAsBackground = false;
+        expected.outerFrame = expected.innerFrame = SCoatingPattern().innerFrame;
+        expected.innerFrames.clear();
+        QVERIFY(coating == expected && coating.color == SCoatingPattern().color);
 
         SHoldPattern hold;
         SHoldPattern other;
@@ -193,33 +184,20 @@ private slots:
     void everyPatternRoundTripsThroughItsElement()
     {
         QDomDocument doc;
-        SFigurePattern figure;
-        QVERIFY(figure.loadXMLNode(written(tiles(), doc), nullptr));
-        QVERIFY(figure == tiles());
-        SSlantPattern slant;
-        QVERIFY(slant.loadXMLNode(written(twoLines(), doc), nullptr));
-        QVERIFY(slant == twoLines());
-        SCoatingPattern coating;
-        QVERIFY(coating.loadXMLNode(written(fill(), doc), nullptr));
-        QVERIFY(coating == fill());
         SHoldPattern hold;
-        SHoldPattern source;
-        giveFrames(source);
-        QVERIFY(hold.loadXMLNode(written(source, doc), nullptr));
-        QVERIFY(hold == source);
-
-        // An emptied list is written as empty, so it comes back empty.
-        SSlantPattern noLines = twoLines();
+        giveFrames(hold);
+        SSlantPattern noLines = twoLines(); // an emptied list comes back empty
         noLines.lines.clear();
         noLines.innerFrames.clear();
-        slant = twoLines();
-        QVERIFY(slant.loadXMLNode(written(noLines, doc), nullptr));
-        QVERIFY(slant == noLines);
+        QVERIFY(roundTrips(tiles(), doc) && roundTrips(twoLines(), doc));
+        QVERIFY(roundTrips(fill(), doc) && roundTrips(hold, doc) && roundTrips(noLines, doc));
 
         // Each pattern answers to its own element only.
+        SFigurePattern figure;
+        SSlantPattern slant;
         QVERIFY(!figure.loadXMLNode(written(twoLines(), doc), nullptr));
         QVERIFY(!slant.loadXMLNode(written(fill(), doc), nullptr));
-        QVERIFY(!coating.loadXMLNode(QDomNode(), nullptr));
+        QVERIFY(!SCoatingPattern().loadXMLNode(QDomNode(), nullptr));
     }
 
     void missingAttributesKeepTheirFields()
@@ -318,9 +296,8 @@ private slots:
     void theDefaultRegistryIsConsistent()
     {
         const CSystemHatchingSetting s = CSystemHatchingSetting::makeDefault();
-        QVERIFY(s.getBaseFigures().size() >= 4);
-        QVERIFY(!s.getFigurePatterns().empty() && !s.getSlantPatterns().empty()
-                && !s.getCoatingPatterns().empty());
+        QVERIFY(s.getBaseFigures().size() >= 4 && !s.getFigurePatterns().empty()
+                && !s.getSlantPatterns().empty() && !s.getCoatingPatterns().empty());
         for (const SFigurePattern& p : s.getFigurePatterns())
             QVERIFY2(s.isBaseFigureRegistered(p.baseFigureName),
                      qPrintable(QString::fromStdWString(p.name)));
@@ -418,8 +395,8 @@ private slots:
                                       QStringLiteral("name"), QString()));
 
         QDomElement e;
-        QVERIFY(!xml::createElement(e, doc, QStringLiteral("1abc")));
-        QVERIFY(!xml::createElement(e, doc, QStringLiteral("a b")));
+        QVERIFY(!xml::createElement(e, doc, QStringLiteral("1abc"))
+                && !xml::createElement(e, doc, QStringLiteral("a b")));
         QVERIFY(xml::createElement(e, doc, QStringLiteral("図形_1")));
         QVERIFY(!xml::writeAttributeText(e, QStringLiteral("x=y"), QStringLiteral("1")));
         QVERIFY(xml::writeAttributeText(e, QStringLiteral("name"), QStringLiteral("\"<&>")));
@@ -428,11 +405,9 @@ private slots:
         QVERIFY(xml::writeIntElement(number, root, doc, QStringLiteral("HatchType"), -42));
         QCOMPARE(root.lastChild().toElement().text(), QStringLiteral("-42"));
         int value = 7;
-        QVERIFY(xml::readInt(value, number));
-        QCOMPARE(value, -42);
+        QVERIFY(xml::readInt(value, number) && value == -42);
         number.firstChild().setNodeValue(QStringLiteral(" 12 "));
-        QVERIFY(xml::readInt(value, number));
-        QCOMPARE(value, 12);
+        QVERIFY(xml::readInt(value, number) && value == 12);
         for (const char* text : {"12a", "", "0x10", "99999999999"}) {
             number.firstChild().setNodeValue(QString::fromLatin1(text));
             QVERIFY(!xml::readInt(value, number));

@@ -8,9 +8,11 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace kesto::ui::control;
+namespace test = kesto::test;
 
 namespace {
 
@@ -51,7 +53,7 @@ void addThreeColumns(CKsListCtrl& list)
 
 QStringList column0(const CKsListCtrl& list)
 {
-    return kesto::test::columnTexts(list, 0);
+    return test::columnTexts(list, 0);
 }
 
 } // namespace
@@ -96,7 +98,7 @@ private slots:
         QCOMPARE(list.getRowCount(), 0);
     }
 
-    void findsRowsByCellTextAndByData()
+    void rowsAreFoundByTextOrDataAndSelected()
     {
         CKsListCtrl list;
         addThreeColumns(list);
@@ -110,93 +112,59 @@ private slots:
         QCOMPARE(list.findRow(7, QStringLiteral("道路")), -1);
         QCOMPARE(list.findRowByData(30), 2);
         QCOMPARE(list.findRowByData(99), -1);
+
+        Recorder recorder;
+        list.attach(&recorder);
+        QCOMPARE(list.getSelectedRow(), -1);
+        list.selectRow(2);
+        QCOMPARE(list.getSelectedRow(), 2);
+        QCOMPARE(recorder.entries.back().event, int(LIST_EVENT_SELECTION_CHANGED));
+        list.setMultiSelect(true);
+        list.setRowsSelected({2, 0});
+        QCOMPARE(list.getSelectedRows(), std::vector<int>({0, 2}));
+        list.clearSelection();
+        QCOMPARE(list.getSelectedRow(), -1);
+        list.selectRow(9);
+        QCOMPARE(list.getSelectedRow(), -1);
+        list.detach(&recorder);
     }
 
+    // An edit is told once it is stored, and only when it changed something; locked cells,
+    // read-only columns and read-only lists refuse edits and tell nothing.
     void userEditsAreReportedAfterTheyAreStored()
     {
         CKsListCtrl list;
         addThreeColumns(list);
-        list.addRow({QStringLiteral("A"), QStringLiteral("○")});
+        list.addColumn(QStringLiteral("固定"), 100, EColumnType::Text, Qt::AlignLeft, false);
+        list.addRow({QStringLiteral("A"), QStringLiteral("○"), {}, QStringLiteral("x")});
+        list.addRow({QStringLiteral("B")});
         Recorder recorder;
         list.attach(&recorder);
-        QVERIFY(list.commitCellText(0, 0, QStringLiteral("B")));
+        QVERIFY(list.commitCellText(0, 0, QStringLiteral("C")));
         const auto changes = recorder.cellChanges();
         QCOMPARE(changes.size(), std::size_t(1));
-        QCOMPARE(changes[0].row, 0);
-        QCOMPARE(changes[0].column, 0);
-        QCOMPARE(changes[0].text, QStringLiteral("B"));
-        QCOMPARE(recorder.entries.back().stored, QStringLiteral("B"));
+        QCOMPARE(std::tuple(changes[0].row, changes[0].column, changes[0].text),
+                 std::tuple(0, 0, QStringLiteral("C")));
+        QCOMPARE(recorder.entries.back().stored, QStringLiteral("C"));
 
-        QVERIFY(!list.commitCellText(0, 0, QStringLiteral("B"))); // unchanged: no event
-        list.setCellText(0, 0, QStringLiteral("C"));              // by the owner: no event
-        QCOMPARE(recorder.cellChanges().size(), std::size_t(1));
-        list.detach(&recorder);
-    }
-
-    void lockedCellsAndReadOnlyListsRefuseEdits()
-    {
-        CKsListCtrl list;
-        list.addColumn(QStringLiteral("名称"), 100);
-        list.addColumn(QStringLiteral("固定"), 100, EColumnType::Text, Qt::AlignLeft, false);
-        list.addRow({QStringLiteral("A"), QStringLiteral("x")});
-        list.addRow({QStringLiteral("B"), QStringLiteral("y")});
-        Recorder recorder;
-        list.attach(&recorder);
+        QVERIFY(!list.commitCellText(0, 0, QStringLiteral("C"))); // unchanged: no event
+        list.setCellText(0, 0, QStringLiteral("A"));              // by the owner: no event
         list.setCellEditable(0, 0, false);
         QVERIFY(!list.commitCellText(0, 0, QStringLiteral("Z")));
-        QVERIFY(!list.commitCellText(1, 1, QStringLiteral("Z")));
-        QVERIFY(!(list.model()->flags(list.model()->index(1, 1)) & Qt::ItemIsEditable));
+        QVERIFY(!list.commitCellText(1, 3, QStringLiteral("Z")));
+        QVERIFY(!(list.model()->flags(list.model()->index(1, 3)) & Qt::ItemIsEditable));
         list.setEditable(false);
         QVERIFY(!list.commitCellText(1, 0, QStringLiteral("Z")));
-        QCOMPARE(list.getCellText(0, 0), QStringLiteral("A"));
-        QCOMPARE(list.getCellText(1, 0), QStringLiteral("B"));
-        QVERIFY(recorder.entries.empty());
+        QCOMPARE(column0(list), QStringList({"A", "B"}));
+        QCOMPARE(recorder.cellChanges().size(), std::size_t(1));
         list.setEditable(true);
         QVERIFY(list.commitCellText(1, 0, QStringLiteral("Z")));
         list.detach(&recorder);
     }
 
-    void textCellIsEditedInPlace()
-    {
-        CKsListCtrl list;
-        addThreeColumns(list);
-        list.addRow({QStringLiteral("A")});
-        list.show();
-        Recorder recorder;
-        list.attach(&recorder);
-        list.setCurrentIndex(list.model()->index(0, 0));
-        list.edit(list.model()->index(0, 0));
-        auto* editor = list.findChild<QLineEdit*>();
-        QVERIFY(editor);
-        editor->setText(QStringLiteral("橋梁"));
-        QTest::keyClick(editor, Qt::Key_Return);
-        QTRY_COMPARE(list.getCellText(0, 0), QStringLiteral("橋梁"));
-        QCOMPARE(recorder.cellChanges().size(), std::size_t(1));
-        list.detach(&recorder);
-    }
-
-    void comboCellCommitsTheChosenItem()
-    {
-        CKsListCtrl list;
-        addThreeColumns(list);
-        list.addRow({QStringLiteral("A"), QStringLiteral("○")});
-        list.show();
-        Recorder recorder;
-        list.attach(&recorder);
-        list.edit(list.model()->index(0, 1));
-        auto* box = list.findChild<QComboBox*>();
-        QVERIFY(box);
-        QCOMPARE(box->count(), 2);
-        QCOMPARE(box->currentText(), QStringLiteral("○"));
-        box->setCurrentIndex(1);
-        emit box->activated(1);
-        QTRY_COMPARE(list.getCellText(0, 1), QStringLiteral("×"));
-        QCOMPARE(recorder.cellChanges().size(), std::size_t(1));
-        QCOMPARE(recorder.cellChanges()[0].column, 1);
-        list.detach(&recorder);
-    }
-
-    void colourCellOpensTheHostColourChooser()
+    // A combo cell commits the chosen item; a colour cell opens the host's chooser, by
+    // mouse or keyboard, and commits only a change.
+    void comboAndColourCellsCommitTheChoice()
     {
         using kesto::ui::framework::ColorChooserHook;
         CKsListCtrl list;
@@ -206,15 +174,23 @@ private slots:
         list.resize(400, 200);
         list.show();
         QVERIFY(QTest::qWaitForWindowExposed(&list));
+        Recorder recorder;
+        list.attach(&recorder);
+        list.edit(list.model()->index(0, 1));
+        auto* box = list.findChild<QComboBox*>();
+        QVERIFY(box);
+        QCOMPARE(test::itemTexts(*box), QStringList({"○", "×"}));
+        QCOMPARE(box->currentText(), QStringLiteral("○"));
+        test::choose(*box, 1);
+        QTRY_COMPARE(list.getCellText(0, 1), QStringLiteral("×"));
+
         QColor offered;
         const auto previous = ColorChooserHook::setHandler([&](const QColor& initial) {
             offered = initial;
             return std::optional<QColor>(QColor(0x12, 0x34, 0x56));
         });
-        Recorder recorder;
-        list.attach(&recorder);
         const QRect cell = list.visualRect(list.model()->index(0, 2));
-        kesto::test::doubleClick(list.viewport(), cell.center());
+        test::doubleClick(list.viewport(), cell.center());
         QCOMPARE(offered, QColor(0, 0, 0xFF));
         offered = QColor();
         list.setCurrentIndex(list.model()->index(0, 2));
@@ -223,32 +199,29 @@ private slots:
         QCOMPARE(offered, QColor(0x12, 0x34, 0x56));
         QCOMPARE(list.getCellColor(0, 2), QRgb(0x123456));
         const auto changes = recorder.cellChanges(); // the second choice changed nothing
-        QCOMPARE(changes.size(), std::size_t(1));
-        QCOMPARE(changes[0].color, QRgb(0x123456));
+        QCOMPARE(changes.size(), std::size_t(2));
+        QCOMPARE(changes[0].column, 1);
+        QCOMPARE(changes[1].color, QRgb(0x123456));
         list.detach(&recorder);
     }
 
-    void selectionIsReportedAndReadBack()
+    void rowsChangedTogetherAreRepaintedInOneNotification()
     {
         CKsListCtrl list;
         addThreeColumns(list);
         for (int i = 0; i < 5; ++i)
-            list.addRow({QString::number(i)});
-        Recorder recorder;
-        list.attach(&recorder);
-        QCOMPARE(list.getSelectedRow(), -1);
-        list.selectRow(3);
-        QCOMPARE(list.getSelectedRow(), 3);
-        QVERIFY(!recorder.entries.empty());
-        QCOMPARE(recorder.entries.back().event, int(LIST_EVENT_SELECTION_CHANGED));
-        list.setMultiSelect(true);
-        list.setRowsSelected({4, 1});
-        QCOMPARE(list.getSelectedRows(), std::vector<int>({1, 4}));
-        list.clearSelection();
-        QCOMPARE(list.getSelectedRow(), -1);
-        list.selectRow(9);
-        QCOMPARE(list.getSelectedRow(), -1);
-        list.detach(&recorder);
+            list.addRow({QStringLiteral("x")});
+        QSignalSpy spy(list.model(), &QAbstractItemModel::dataChanged);
+        for (int row = 1; row <= 3; ++row)
+            list.getRow(row).cells[0].text = QStringLiteral("z");
+        list.updateRows(1, 3);
+        QCOMPARE(spy.count(), 1);
+        const QModelIndex first = spy[0][0].toModelIndex(), last = spy[0][1].toModelIndex();
+        QCOMPARE(std::tuple(first.row(), last.row(), last.column()), std::tuple(1, 3, 2));
+        QCOMPARE(list.model()->index(2, 0).data().toString(), QStringLiteral("z"));
+        list.updateRows(4, 99);
+        list.updateRows(6, 9);
+        QCOMPARE(spy.count(), 2);
     }
 
     void holdsAndScrollsAHundredThousandRows()

@@ -3,6 +3,7 @@
 #include "command/CommandTable.h"
 #include "control/KsListCtrl.h"
 #include "framework/MessageBox.h"
+#include "setting/LineEndSetting.h"
 #include "setting/LineWidthSetting.h"
 #include "setting/SystemColorSetting.h"
 #include "setting/SystemLineTypeSetting.h"
@@ -13,8 +14,10 @@
 #include <QDir>
 #include <QDomDocument>
 #include <QFile>
+#include <QMetaEnum>
 #include <QMouseEvent>
 #include <QSettings>
+#include <QTabBar>
 #include <QTest>
 
 namespace kesto::test {
@@ -48,6 +51,7 @@ void HostFixture::putTables()
     m_config->putSetting(
         std::make_unique<CSystemLineTypeSetting>(CSystemLineTypeSetting::makeDefault()));
     m_config->putSetting(std::make_unique<CLineWidthSetting>(CLineWidthSetting::makeDefault()));
+    m_config->putSetting(std::make_unique<CLineEndSetting>(CLineEndSetting::makeDefault()));
 }
 
 QVariant HostFixture::savedPlacement(const QString& key) const
@@ -94,6 +98,25 @@ void doubleClick(QWidget* widget, const QPoint& at)
                       Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(widget, &event);
     QTest::mouseRelease(widget, Qt::LeftButton, {}, at);
+}
+
+Qt::Key keyNamed(const QString& name)
+{
+    bool found = false;
+    const int key = QMetaEnum::fromType<Qt::Key>().keyToValue(name.toLatin1(), &found);
+    if (!found)
+        qFatal("no key %s", qPrintable(name));
+    return Qt::Key(key);
+}
+
+Qt::KeyboardModifiers modifiersOf(const QString& letters)
+{
+    Qt::KeyboardModifiers out;
+    out.setFlag(Qt::ControlModifier, letters.contains(u'C'));
+    out.setFlag(Qt::ShiftModifier, letters.contains(u'S'));
+    out.setFlag(Qt::AltModifier, letters.contains(u'A'));
+    out.setFlag(Qt::KeypadModifier, letters.contains(u'K'));
+    return out;
 }
 
 QString dataFile(const QString& relative)
@@ -151,6 +174,22 @@ QStringList itemTexts(const QComboBox& combo)
     QStringList out;
     for (int i = 0; i < combo.count(); ++i)
         out << combo.itemText(i);
+    return out;
+}
+
+QStringList tabTexts(const QTabBar& bar)
+{
+    QStringList out;
+    for (int i = 0; i < bar.count(); ++i)
+        out << bar.tabText(i);
+    return out;
+}
+
+QString bits(std::initializer_list<bool> states)
+{
+    QString out;
+    for (bool on : states)
+        out += on ? u'1' : u'0';
     return out;
 }
 

@@ -12,6 +12,7 @@
 #include <memory>
 
 class QComboBox;
+class QTabBar;
 
 namespace kesto::utility {
 class CCommandTable;
@@ -40,7 +41,8 @@ public:
     QString path(const QString& name) const { return m_dir.filePath(name); }
     const QStringList& helpTopics() const { return m_helpTopics; }
 
-    // The colour, custom colour, line type and line width tables, as the workbench keeps them.
+    // The colour, custom colour, line type, line width and line end tables, as the workbench
+    // keeps them.
     void putTables();
     // A value of the placement file ("Key/name"), read after the host wrote it out.
     QVariant savedPlacement(const QString& key) const;
@@ -56,6 +58,15 @@ private:
 // Clicks a button of a dialog as a user would: only when it is shown and enabled.
 // Returns whether the click happened.
 bool click(ui::framework::CKsDialog& dialog, int id);
+// A control of a dialog by its number; the test stops when the layout lacks it.
+template <class T>
+T& ctrl(ui::framework::CKsDialog& dialog, int id)
+{
+    T* control = dialog.dlgItem<T>(id);
+    if (!control)
+        qFatal("control %d missing", id);
+    return *control;
+}
 bool isShown(ui::framework::CKsDialog& dialog, int id);
 bool isEnabled(ui::framework::CKsDialog& dialog, int id);
 // Drivers that end a dialog with OK or Cancel (and fail when the button cannot be clicked).
@@ -65,6 +76,10 @@ void pressCancel(ui::framework::CKsDialog& dialog);
 // A double click as a platform delivers it (QTest::mouseDClick omits the second press that
 // item views need).
 void doubleClick(QWidget* widget, const QPoint& at);
+
+// A key by its Qt name ("Key_S"), and modifiers by letters: C Ctrl, S Shift, A Alt, K keypad.
+Qt::Key keyNamed(const QString& name);
+Qt::KeyboardModifiers modifiersOf(const QString& letters);
 
 // A file of the test data (tests/data, or KS_DATA_DIR).
 QString dataFile(const QString& relative);
@@ -78,6 +93,9 @@ QStringList columnTexts(const ui::control::CKsListCtrl& list, int column);
 QStringList rowTexts(const ui::control::CKsListCtrl& list, int row);
 QStringList headerTexts(const ui::control::CKsListCtrl& list);
 QStringList itemTexts(const QComboBox& combo);
+QStringList tabTexts(const QTabBar& bar);
+// States as a string of 1 and 0, in the order given.
+QString bits(std::initializer_list<bool> states);
 // A user's pick of a combo box entry.
 void choose(QComboBox& combo, int index);
 

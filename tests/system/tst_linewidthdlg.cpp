@@ -16,10 +16,12 @@ using namespace kesto::ui::framework;
 using kesto::test::choose;
 using kesto::test::click;
 using kesto::test::columnTexts;
+using kesto::test::ctrl;
 using kesto::test::isEnabled;
 using kesto::test::isShown;
 using kesto::test::itemTexts;
 using kesto::test::listOf;
+using ui::config::doLineWidthDlg;
 using ui::control::CKsListCtrl;
 using ui::setting::CLineWidthSetting;
 using ui::setting::SLineWidth;
@@ -47,16 +49,10 @@ CLineWidthSetting fourWidths()
     return setting;
 }
 
-QTabBar& tabOf(CKsDialog& d)
+QComboBox& combo(CKsDialog& d, int id)
 {
-    return *d.dlgItem<QTabBar>(Tab);
+    return test::ctrl<QComboBox>(d, id);
 }
-
-QComboBox& comboOf(CKsDialog& d, int id)
-{
-    return *d.dlgItem<QComboBox>(id);
-}
-
 QStringList names(const CLineWidthSetting& setting)
 {
     QStringList out;
@@ -68,14 +64,12 @@ QStringList names(const CLineWidthSetting& setting)
 // A drawing with its own line widths, 0.25 in red and 0.8 in white.
 struct Drawing {
     CMemoryDataBase db{L"道路平面図"};
-    KsLineWidth* red = nullptr;
-    KsLineWidth* white = nullptr;
+    KsLineWidth* red = db.add<KsLineWidth>(0.25);
+    KsLineWidth* white = db.add<KsLineWidth>(0.8);
     Drawing()
     {
-        red = db.add<KsLineWidth>(0.25);
         red->setColor(0xFF0000);
         red->setColorName(L"赤");
-        white = db.add<KsLineWidth>(0.8);
         white->setColor(0xFFFFFF);
         white->setColorName(L"白");
     }
@@ -93,8 +87,7 @@ private slots:
         CLineWidthSetting setting = fourWidths();
         ScopedModalDrivers drivers([](CKsDialog& d) {
             QCOMPARE(d.windowTitle(), QStringLiteral("線幅の設定"));
-            QCOMPARE(tabOf(d).count(), 1);
-            QCOMPARE(tabOf(d).tabText(0), QStringLiteral("システム"));
+            QCOMPARE(test::tabTexts(ctrl<QTabBar>(d, Tab)), QStringList{"システム"});
             CKsListCtrl& list = listOf(d);
             QCOMPARE(test::headerTexts(list).mid(1), QStringList({"幅", "色"}));
             QCOMPARE(list.columnWidth(0), 15);
@@ -106,18 +99,26 @@ private slots:
             QCOMPARE(d.GetDlgItem(Note)->property("text").toString(),
                      QStringLiteral("*はシステムの規定値であり、線幅の変更不可"));
             QVERIFY(isShown(d, Note) && !isShown(d, Register));
-            QCOMPARE(itemTexts(comboOf(d, Thin)), columnTexts(list, 1));
-            QCOMPARE(comboOf(d, Thin).currentText(), QStringLiteral("0.18"));
-            QCOMPARE(comboOf(d, Bold).currentText(), QStringLiteral("0.3"));
-            QCOMPARE(comboOf(d, ExtraBold).currentText(), QStringLiteral("0.6"));
+            QCOMPARE(itemTexts(combo(d, Thin)), columnTexts(list, 1));
+            QCOMPARE(combo(d, Thin).currentText(), QStringLiteral("0.18"));
+            QCOMPARE(combo(d, Bold).currentText(), QStringLiteral("0.3"));
+            QCOMPARE(combo(d, ExtraBold).currentText(), QStringLiteral("0.6"));
+            QVERIFY(click(d, Help));
             test::pressCancel(d);
         });
-        QVERIFY(!ui::config::doLineWidthDlg(setting, CLineWidthSetting::makeDefault(), nullptr));
+        QVERIFY(!doLineWidthDlg(setting, CLineWidthSetting::makeDefault(), nullptr));
+        QCOMPARE(host.helpTopics(), QStringList{QStringLiteral("DLG_HLP_SYS_LINEWIDTH")});
+        QVERIFY(!host.savedPlacement(QStringLiteral("LineWidthDlg/geometry")).isNull());
     }
 
-    void entriesMoveOnlyAmongTheOfficesOwn()
+    // Entries move only among the office's own; a width another entry has is dropped
+    // silently, others are read as typed (0 included); new entries show against the
+    // background.
+    void theSystemTableIsEditedAroundTheFixedEntries()
     {
         test::HostFixture host;
+        MessageBoxRecorder boxes;
+        core::Application::getInstance()->setBackgroundColor(0xFFFFFF);
         CLineWidthSetting setting = fourWidths();
         ScopedModalDrivers drivers([](CKsDialog& d) {
             CKsListCtrl& list = listOf(d);
@@ -129,65 +130,33 @@ private slots:
             QCOMPARE(columnTexts(list, 1), QStringList({"0.13", "0.18", "0.6", "0.3"}));
             QCOMPARE(list.getSelectedRow(), 3);
             QVERIFY(click(d, Delete));
-            QCOMPARE(columnTexts(list, 1), QStringList({"0.13", "0.18", "0.6"}));
             QCOMPARE(list.getSelectedRow(), 2);
-            test::pressOk(d);
-        });
-        QVERIFY(ui::config::doLineWidthDlg(setting, {}, nullptr));
-        QCOMPARE(names(setting), QStringList({"0.13", "0.18", "0.6"}));
-    }
-
-    void newEntriesAreClearedAndShowAgainstTheBackground()
-    {
-        test::HostFixture host;
-        core::Application::getInstance()->setBackgroundColor(0xFFFFFF);
-        CLineWidthSetting setting = fourWidths();
-        ScopedModalDrivers drivers([](CKsDialog& d) {
-            CKsListCtrl& list = listOf(d);
-            QVERIFY(click(d, Add));
-            QCOMPARE(list.getSelectedRow(), 4);
-            QCOMPARE(list.getCellText(4, 1), QStringLiteral("0"));
-            QCOMPARE(list.getCellColor(4, 2), QRgb(0x000000));
-            QVERIFY(list.commitCellText(4, 1, QStringLiteral("0.45")));
-            list.selectRow(3);
-            QVERIFY(click(d, Insert));
-            QCOMPARE(columnTexts(list, 1),
-                     QStringList({"0.13", "0.18", "0.3", "0", "0.6", "0.45"}));
-            QCOMPARE(list.getSelectedRow(), 3);
-            QCOMPARE(itemTexts(comboOf(d, Bold)), columnTexts(list, 1));
-            test::pressOk(d);
-        });
-        QVERIFY(ui::config::doLineWidthDlg(setting, {}, nullptr));
-        core::Application::getInstance()->setBackgroundColor(0x000000);
-        QCOMPARE(names(setting), QStringList({"0.13", "0.18", "0.3", "0", "0.6", "0.45"}));
-        const SLineWidth& added = setting.getLineWidths()[5];
-        QCOMPARE(added.getColorName(), std::wstring(L"黒"));
-        QVERIFY(!added.isSystemDefault());
-        QCOMPARE(setting.getLineWidths()[3].getColor(), 0x000000u);
-    }
-
-    // A width another entry has is dropped silently; others are read as typed, 0 included.
-    void typedWidthsAreReadAndDuplicatesDroppedSilently()
-    {
-        test::HostFixture host;
-        MessageBoxRecorder boxes;
-        CLineWidthSetting setting = fourWidths();
-        ScopedModalDrivers drivers([&](CKsDialog& d) {
-            CKsListCtrl& list = listOf(d);
-            QVERIFY(!list.commitCellText(2, 1, QStringLiteral("0.6")));
             QVERIFY(!list.commitCellText(2, 1, QStringLiteral("0.13")));
-            QCOMPARE(list.getCellText(2, 1), QStringLiteral("0.3"));
-            QVERIFY(list.commitCellText(2, 1, QStringLiteral("0.3004")));
+            QVERIFY(!list.commitCellText(0, 1, QStringLiteral("0.1"))); // fixed entry
+            QCOMPARE(list.getCellText(2, 1), QStringLiteral("0.6"));
+            QVERIFY(list.commitCellText(2, 1, QStringLiteral("0.1304")));
+            QCOMPARE(combo(d, ExtraBold).currentIndex(), -1); // 0.6 is gone
+            QVERIFY(click(d, Add));
+            QCOMPARE(list.getSelectedRow(), 3);
+            QCOMPARE(list.getCellText(3, 1), QStringLiteral("0"));
+            QCOMPARE(list.getCellColor(3, 2), QRgb(0x000000));
+            QVERIFY(list.commitCellText(3, 1, QStringLiteral("0.45")));
             QVERIFY(list.commitCellText(3, 1, QStringLiteral("太め")));
             QCOMPARE(list.getCellText(3, 1), QStringLiteral("0"));
-            QVERIFY(!list.commitCellText(0, 1, QStringLiteral("0.1"))); // fixed entry
-            QCOMPARE(comboOf(d, ExtraBold).currentIndex(), -1);         // 0.6 is gone
+            list.selectRow(2);
+            QVERIFY(click(d, Insert));
+            QCOMPARE(list.getSelectedRow(), 2);
+            QCOMPARE(itemTexts(combo(d, Bold)), columnTexts(list, 1));
             test::pressOk(d);
         });
-        QVERIFY(ui::config::doLineWidthDlg(setting, {}, nullptr));
+        QVERIFY(doLineWidthDlg(setting, {}, nullptr));
+        core::Application::getInstance()->setBackgroundColor(0x000000);
         QCOMPARE(boxes.count(), std::size_t(0));
-        QCOMPARE(setting.getLineWidths()[2].getWidth(), 0.3004);
-        QCOMPARE(names(setting), QStringList({"0.13", "0.18", "0.3", "0"}));
+        QCOMPARE(names(setting), QStringList({"0.13", "0.18", "0", "0.13", "0"}));
+        const auto& widths = setting.getLineWidths();
+        QCOMPARE(widths[3].getWidth(), 0.1304);
+        QVERIFY(widths[2].getColor() == 0 && widths[4].getColorName() == L"黒");
+        QVERIFY(!widths[2].isSystemDefault() && !widths[4].isSystemDefault());
     }
 
     void coloursAndTheKindsChosenAreStored()
@@ -198,20 +167,19 @@ private slots:
         ScopedModalDrivers drivers([](CKsDialog& d) {
             QVERIFY(listOf(d).commitCellColor(0, 2, 0x0000FF));
             QVERIFY(listOf(d).commitCellColor(2, 2, 0x123456));
-            choose(comboOf(d, Bold), 0);
-            choose(comboOf(d, ExtraBold), 2);
+            choose(combo(d, Bold), 0);
+            choose(combo(d, ExtraBold), 2);
             test::pressOk(d);
         });
-        QVERIFY(ui::config::doLineWidthDlg(setting, {}, nullptr));
+        QVERIFY(doLineWidthDlg(setting, {}, nullptr));
         const auto& widths = setting.getLineWidths();
         QCOMPARE(widths[0].getColor(), 0x0000FFu);
-        QCOMPARE(widths[0].getColorName(), std::wstring(L"青"));
-        QCOMPARE(widths[0].getColorType(), 1);
+        QVERIFY(widths[0].getColorName() == L"青" && widths[0].getColorType() == 1);
         QCOMPARE(widths[2].getColor(), 0x123456u);
         QCOMPARE(widths[2].getColorType(), 2);
         QCOMPARE(setting.getThinLineWidth().getWidth(), 0.18);
         QCOMPARE(setting.getBoldLineWidth().getWidth(), 0.13);
-        QCOMPARE(setting.getBoldLineWidth().getColorName(), std::wstring(L"青"));
+        QVERIFY(setting.getBoldLineWidth().getColorName() == L"青");
         QCOMPARE(setting.getExtraBoldLineWidth().getWidth(), 0.3);
     }
 
@@ -223,23 +191,22 @@ private slots:
         ScopedModalDrivers drivers;
         drivers.add([](CKsDialog& d) {
             click(d, Add);
-            choose(comboOf(d, Thin), 0);
+            choose(combo(d, Thin), 0);
             test::pressCancel(d);
         });
         drivers.add([](CKsDialog& d) {
             click(d, Add);
-            choose(comboOf(d, Thin), 0);
             listOf(d).selectRow(2);
             QVERIFY(click(d, Reset));
             QCOMPARE(listOf(d).getRowCount(), 10);
             QCOMPARE(listOf(d).getSelectedRow(), -1);
-            QCOMPARE(comboOf(d, Thin).currentText(), QStringLiteral("0.18"));
-            QCOMPARE(comboOf(d, ExtraBold).currentText(), QStringLiteral("0.7"));
+            QCOMPARE(combo(d, Thin).currentText(), QStringLiteral("0.18"));
+            QCOMPARE(combo(d, ExtraBold).currentText(), QStringLiteral("0.7"));
             test::pressOk(d);
         });
-        QVERIFY(!ui::config::doLineWidthDlg(setting, defaults, nullptr));
+        QVERIFY(!doLineWidthDlg(setting, defaults, nullptr));
         QVERIFY(setting.isSame(fourWidths()));
-        QVERIFY(ui::config::doLineWidthDlg(setting, defaults, nullptr));
+        QVERIFY(doLineWidthDlg(setting, defaults, nullptr));
         QVERIFY(setting.isSame(defaults));
     }
 
@@ -250,23 +217,27 @@ private slots:
         Drawing drawing;
         MessageBoxRecorder boxes;
         CLineWidthSetting setting = fourWidths();
-        setting.setUserLineWidths([] {
-            auto widths = fourWidths().getLineWidths();
-            widths.emplace_back(0.25, 0, 1, L"黒");
-            return widths;
-        }());
-        ScopedModalDrivers drivers([&](CKsDialog& d) {
-            QCOMPARE(tabOf(d).count(), 2);
-            QCOMPARE(tabOf(d).tabText(1), QStringLiteral("図面内"));
-            tabOf(d).setCurrentIndex(1);
+        auto widths = setting.getLineWidths();
+        widths.emplace_back(0.25, 0, 1, L"黒");
+        setting.setUserLineWidths(widths);
+        const CLineWidthSetting before = setting;
+        ScopedModalDrivers drivers([](CKsDialog& d) { // Cancel leaves the drawing alone
+            ctrl<QTabBar>(d, Tab).setCurrentIndex(1);
+            listOf(d).commitCellText(0, 1, QStringLiteral("2"));
+            choose(combo(d, Thin), 1);
+            test::pressCancel(d);
+        });
+        drivers.add([&](CKsDialog& d) {
+            QCOMPARE(test::tabTexts(ctrl<QTabBar>(d, Tab)), QStringList({"システム", "図面内"}));
+            ctrl<QTabBar>(d, Tab).setCurrentIndex(1);
             CKsListCtrl& list = listOf(d);
             QCOMPARE(columnTexts(list, 1), QStringList({"0.25", "0.8"}));
             QCOMPARE(columnTexts(list, 0), QStringList({"", ""}));
             QVERIFY(!isShown(d, Note));
             QVERIFY(isShown(d, Register) && !isEnabled(d, Register));
             QVERIFY(!isEnabled(d, Add) && !isEnabled(d, Reset));
-            QCOMPARE(itemTexts(comboOf(d, Bold)), QStringList({"0.25", "0.8"}));
-            QCOMPARE(comboOf(d, Thin).currentIndex(), -1);
+            QCOMPARE(itemTexts(combo(d, Bold)), QStringList({"0.25", "0.8"}));
+            QCOMPARE(combo(d, Thin).currentIndex(), -1);
 
             list.selectRow(0);
             QVERIFY(!isEnabled(d, Insert) && !isEnabled(d, Delete) && !isEnabled(d, Up));
@@ -281,21 +252,26 @@ private slots:
             QVERIFY(list.commitCellText(0, 1, QStringLiteral("0.18")));
             QCOMPARE(list.getCellText(0, 1), QStringLiteral("0.18"));
             QVERIFY(list.commitCellColor(1, 2, 0x00A000));
-            choose(comboOf(d, Bold), 1);
+            choose(combo(d, Bold), 1);
 
-            tabOf(d).setCurrentIndex(0);
+            ctrl<QTabBar>(d, Tab).setCurrentIndex(0);
             QCOMPARE(columnTexts(listOf(d), 1).last(), QStringLiteral("0.8"));
             QVERIFY(!isShown(d, Register));
             test::pressOk(d);
         });
-        QVERIFY(ui::config::doLineWidthDlg(setting, {}, &drawing.db));
-        QCOMPARE(names(setting), QStringList({"0.13", "0.18", "0.3", "0.6", "0.25", "0.8"}));
-        QCOMPARE(setting.getLineWidths().back().getColorName(), std::wstring(L"白"));
-        QCOMPARE(drawing.red->getWidth(), 0.18);
-        QCOMPARE(drawing.red->getName(), std::wstring(L"0.18"));
-        QCOMPARE(drawing.white->getColor(), 0x00A000u);
-        QCOMPARE(drawing.white->getColorName(), std::wstring(L"緑"));
+        QVERIFY(!doLineWidthDlg(setting, {}, &drawing.db));
+        QCOMPARE(drawing.red->getWidth(), 0.25);
         KsLineWidth kind;
+        QVERIFY(drawing.db.getLineWidthOfKind(KsLineWidth::Thin, kind) && kind.getWidth() == 0.18);
+        QVERIFY(drawing.db.getChangeRecord().empty() && setting.isSame(before));
+
+        QVERIFY(doLineWidthDlg(setting, {}, &drawing.db));
+        QCOMPARE(names(setting), QStringList({"0.13", "0.18", "0.3", "0.6", "0.25", "0.8"}));
+        QVERIFY(setting.getLineWidths().back().getColorName() == L"白");
+        QCOMPARE(drawing.red->getWidth(), 0.18);
+        QVERIFY(drawing.red->getName() == L"0.18");
+        QCOMPARE(drawing.white->getColor(), 0x00A000u);
+        QVERIFY(drawing.white->getColorName() == L"緑");
         QVERIFY(drawing.db.getLineWidthOfKind(KsLineWidth::Bold, kind));
         QCOMPARE(kind.getWidth(), 0.8);
         QCOMPARE(kind.getColor(), 0x00A000u);
@@ -304,39 +280,6 @@ private slots:
         // Once by the dialog, once by the entry function.
         QCOMPARE(drawing.db.getChangeRecord(),
                  (std::vector<std::wstring>{L"線幅設定", L"線幅設定"}));
-    }
-
-    void cancelLeavesTheDrawingAlone()
-    {
-        test::HostFixture host;
-        Drawing drawing;
-        CLineWidthSetting setting = fourWidths();
-        ScopedModalDrivers drivers([](CKsDialog& d) {
-            tabOf(d).setCurrentIndex(1);
-            listOf(d).commitCellText(0, 1, QStringLiteral("2"));
-            choose(comboOf(d, Thin), 1);
-            test::pressCancel(d);
-        });
-        QVERIFY(!ui::config::doLineWidthDlg(setting, {}, &drawing.db));
-        QCOMPARE(drawing.red->getWidth(), 0.25);
-        KsLineWidth thin;
-        drawing.db.getLineWidthOfKind(KsLineWidth::Thin, thin);
-        QCOMPARE(thin.getWidth(), 0.18);
-        QVERIFY(drawing.db.getChangeRecord().empty());
-        QVERIFY(setting.isSame(fourWidths()));
-    }
-
-    void helpOpensTheLineWidthTopicAndThePlacementIsKept()
-    {
-        test::HostFixture host;
-        CLineWidthSetting setting = fourWidths();
-        ScopedModalDrivers drivers([](CKsDialog& d) {
-            QVERIFY(click(d, Help));
-            test::pressCancel(d);
-        });
-        ui::config::doLineWidthDlg(setting, {}, nullptr);
-        QCOMPARE(host.helpTopics(), QStringList{QStringLiteral("DLG_HLP_SYS_LINEWIDTH")});
-        QVERIFY(!host.savedPlacement(QStringLiteral("LineWidthDlg/geometry")).isNull());
     }
 };
 

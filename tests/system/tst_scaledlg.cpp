@@ -40,7 +40,7 @@ CSystemScaleSetting scales(std::initializer_list<std::pair<double, double>> valu
 
 QTabBar& tabOf(CKsDialog& d)
 {
-    return *d.dlgItem<QTabBar>(Tab);
+    return test::ctrl<QTabBar>(d, Tab);
 }
 
 QStringList names(const CSystemScaleSetting& setting)
@@ -68,14 +68,16 @@ class TestScaleDlg : public QObject {
     Q_OBJECT
 
 private slots:
+    // Without a drawing only the system tab; the placement is kept and the dialog cannot be
+    // made smaller than it opened.
     void withoutADrawingThereIsOnlyTheSystemTab()
     {
         test::HostFixture host;
         CSystemScaleSetting setting = scales({{1, 100}, {1, 200}});
-        ScopedModalDrivers drivers([](CKsDialog& d) {
+        QSize first;
+        ScopedModalDrivers drivers([&](CKsDialog& d) {
             QCOMPARE(d.windowTitle(), QStringLiteral("スケールの設定"));
-            QCOMPARE(tabOf(d).count(), 1);
-            QCOMPARE(tabOf(d).tabText(0), QStringLiteral("システム"));
+            QCOMPARE(test::tabTexts(tabOf(d)), QStringList{"システム"});
             CKsListCtrl& list = listOf(d);
             QCOMPARE(test::headerTexts(list), QStringList({"名称", "分子", "分母"}));
             QCOMPARE(columnTexts(list, 0), QStringList({"1/100", "1/200"}));
@@ -83,26 +85,44 @@ private slots:
             QVERIFY(!isShown(d, Register) && isShown(d, Reset));
             list.selectRow(1);
             QVERIFY(isEnabled(d, Insert) && isEnabled(d, Delete));
+            QVERIFY(click(d, Help));
+            first = d.size();
+            QCOMPARE(d.minimumSize(), first);
+            d.resize(first + QSize(40, 30));
             test::pressCancel(d);
         });
+        QSize reopened;
+        drivers.add([&](CKsDialog& d) { reopened = d.size(); });
         QVERIFY(!doSystemScaleDlg(setting, CSystemScaleSetting::makeDefault()));
+        QCOMPARE(host.helpTopics(), QStringList{QStringLiteral("DLG_HLP_SYS_SCALE")});
+        QVERIFY(!host.savedPlacement(QStringLiteral("SystemScaleDlg/geometry")).isNull());
+        doSystemScaleDlg(setting, {});
+        QCOMPARE(reopened, first + QSize(40, 30));
     }
 
+    // Any typed value is read, kept with six decimals and named after on OK; 0 too, without
+    // a message.
     void editedScalesAreNamedAfterTheirValuesAndStoredOnOk()
     {
         test::HostFixture host;
-        CSystemScaleSetting setting = scales({{1, 100}});
+        MessageBoxRecorder boxes;
+        CSystemScaleSetting setting = scales({{1, 100}, {1, 200}});
         ScopedModalDrivers drivers([](CKsDialog& d) {
             CKsListCtrl& list = listOf(d);
             QVERIFY(click(d, Add));
-            QCOMPARE(list.getSelectedRow(), 1);
-            QCOMPARE(list.getCellText(1, 0), QStringLiteral("1/1"));
-            QVERIFY(list.commitCellText(1, 2, QStringLiteral("1.23456789")));
-            QCOMPARE(list.getCellText(1, 2), QStringLiteral("1.234568"));
-            QCOMPARE(list.getCellText(1, 0), QStringLiteral("1/1.234568"));
-            QVERIFY(list.commitCellText(1, 1, QStringLiteral("３.0000")));
-            QCOMPARE(list.getCellText(1, 1), QStringLiteral("3"));
+            QCOMPARE(list.getSelectedRow(), 2);
+            QCOMPARE(list.getCellText(2, 0), QStringLiteral("1/1"));
+            QVERIFY(list.commitCellText(2, 2, QStringLiteral("1.23456789")));
+            QCOMPARE(list.getCellText(2, 2), QStringLiteral("1.234568"));
+            QCOMPARE(list.getCellText(2, 0), QStringLiteral("1/1.234568"));
+            QVERIFY(list.commitCellText(2, 1, QStringLiteral("３.0000")));
+            QCOMPARE(list.getCellText(2, 1), QStringLiteral("3"));
             QVERIFY(!list.commitCellText(0, 0, QStringLiteral("好きな名前")));
+            list.commitCellText(1, 2, QStringLiteral("abc"));
+            QCOMPARE(list.getCellText(1, 2), QStringLiteral("0"));
+            list.commitCellText(1, 1, QStringLiteral("0.0000004"));
+            QCOMPARE(list.getCellText(1, 1), QStringLiteral("0"));
+            list.commitCellText(1, 2, QStringLiteral("-5"));
             // Typed in place, as a user does.
             const QModelIndex cell = list.model()->index(0, 2);
             list.setCurrentIndex(cell);
@@ -116,35 +136,19 @@ private slots:
             test::pressOk(d);
         });
         QVERIFY(doSystemScaleDlg(setting, CSystemScaleSetting::makeDefault()));
-        QCOMPARE(names(setting), QStringList({"1/250", "3/1.234568"}));
-        QCOMPARE(setting.getSystemScales()[1].numerator, 3.0);
-        QCOMPARE(setting.getSystemScales()[1].denominator, 1.234568);
-    }
-
-    // Any typed value is read, kept with six decimals and named after; 0 too.
-    void everyTypedValueIsStoredWithoutAMessage()
-    {
-        test::HostFixture host;
-        MessageBoxRecorder boxes;
-        CSystemScaleSetting setting = scales({{1, 100}, {1, 200}});
-        ScopedModalDrivers drivers([&](CKsDialog& d) {
-            CKsListCtrl& list = listOf(d);
-            list.commitCellText(1, 2, QStringLiteral("abc"));
-            QCOMPARE(list.getCellText(1, 2), QStringLiteral("0"));
-            list.commitCellText(0, 1, QStringLiteral("0.0000004"));
-            QCOMPARE(list.getCellText(0, 1), QStringLiteral("0"));
-            list.commitCellText(0, 2, QStringLiteral("-5"));
-            test::pressOk(d);
-        });
-        QVERIFY(doSystemScaleDlg(setting, {}));
         QCOMPARE(boxes.count(), std::size_t(0));
-        QCOMPARE(names(setting), QStringList({"0/-5", "1/0"}));
+        QCOMPARE(names(setting), QStringList({"1/250", "0/-5", "3/1.234568"}));
+        QCOMPARE(setting.getSystemScales()[2].numerator, 3.0);
+        QCOMPARE(setting.getSystemScales()[2].denominator, 1.234568);
     }
 
-    void insertAndDeleteActOnTheSelectedRow()
+    // Insert and delete act on the selected row; "初期化" shows the defaults until OK.
+    void rowsAreInsertedDeletedAndReset()
     {
         test::HostFixture host;
+        const CSystemScaleSetting defaults = scales({{1, 1}, {1, 1000}});
         CSystemScaleSetting setting = scales({{1, 10}, {1, 20}, {1, 50}});
+        const CSystemScaleSetting original = setting;
         ScopedModalDrivers drivers([](CKsDialog& d) {
             CKsListCtrl& list = listOf(d);
             list.selectRow(1);
@@ -157,19 +161,6 @@ private slots:
             QCOMPARE(list.getSelectedRow(), 2);
             list.clearSelection();
             QVERIFY(!click(d, Delete));
-            test::pressOk(d);
-        });
-        QVERIFY(doSystemScaleDlg(setting, {}));
-        QCOMPARE(names(setting), QStringList({"1/10", "1/1", "1/20"}));
-    }
-
-    void resetRestoresTheDefaultsUntilOk()
-    {
-        test::HostFixture host;
-        const CSystemScaleSetting defaults = scales({{1, 1}, {1, 1000}});
-        CSystemScaleSetting setting = scales({{1, 100}});
-        ScopedModalDrivers drivers;
-        drivers.add([](CKsDialog& d) {
             QVERIFY(click(d, Reset));
             QCOMPARE(columnTexts(listOf(d), 0), QStringList({"1/1", "1/1000"}));
             QTest::keyClick(&d, Qt::Key_Escape);
@@ -179,7 +170,7 @@ private slots:
             test::pressOk(d);
         });
         QVERIFY(!doSystemScaleDlg(setting, defaults));
-        QCOMPARE(names(setting), QStringList({"1/100"}));
+        QVERIFY(setting.isSame(original));
         QVERIFY(doSystemScaleDlg(setting, defaults));
         QVERIFY(setting.isSame(defaults));
     }
@@ -191,8 +182,7 @@ private slots:
         MessageBoxRecorder boxes;
         CSystemScaleSetting setting = scales({{1, 100}});
         ScopedModalDrivers drivers([&](CKsDialog& d) {
-            QCOMPARE(tabOf(d).count(), 2);
-            QCOMPARE(tabOf(d).tabText(1), QStringLiteral("図面内"));
+            QCOMPARE(test::tabTexts(tabOf(d)), QStringList({"システム", "図面内"}));
             tabOf(d).setCurrentIndex(1);
             CKsListCtrl& list = listOf(d);
             QCOMPARE(columnTexts(list, 0), QStringList({"平面 1/100", "1/600"}));
@@ -221,8 +211,7 @@ private slots:
         test::HostFixture host;
         OpenDrawing drawing(host);
         CSystemScaleSetting setting = scales({{1, 100}});
-        ScopedModalDrivers drivers;
-        drivers.add([](CKsDialog& d) {
+        ScopedModalDrivers drivers([](CKsDialog& d) {
             QVERIFY(!isShown(d, Insert) && !isShown(d, Delete) && !isShown(d, Reset));
             tabOf(d).setCurrentIndex(1);
             QVERIFY(!isShown(d, Register));
@@ -238,28 +227,6 @@ private slots:
         QCOMPARE(names(setting), QStringList({"1/100"}));
         QVERIFY(ui::config::doSystemScaleDlgAddMode(setting));
         QCOMPARE(names(setting), QStringList({"1/100", "1/300"}));
-    }
-
-    void helpOpensTheScaleTopicAndThePlacementIsKept()
-    {
-        test::HostFixture host;
-        CSystemScaleSetting setting = scales({{1, 100}});
-        QSize first;
-        QSize reopened;
-        ScopedModalDrivers drivers;
-        drivers.add([&](CKsDialog& d) {
-            QVERIFY(click(d, Help));
-            first = d.size();
-            QCOMPARE(d.minimumSize(), first); // cannot be made smaller than it opened
-            d.resize(first + QSize(40, 30));
-            test::pressCancel(d);
-        });
-        drivers.add([&](CKsDialog& d) { reopened = d.size(); });
-        doSystemScaleDlg(setting, {});
-        QCOMPARE(host.helpTopics(), QStringList{QStringLiteral("DLG_HLP_SYS_SCALE")});
-        QVERIFY(!host.savedPlacement(QStringLiteral("SystemScaleDlg/geometry")).isNull());
-        doSystemScaleDlg(setting, {});
-        QCOMPARE(reopened, first + QSize(40, 30));
     }
 };
 

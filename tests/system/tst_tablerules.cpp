@@ -1,5 +1,7 @@
 // The table dialogs' rules without a window: reading typed numbers, the buttons of the one
 // table-editing shape, and each table's checks.
+#include "support/TestSupport.h"
+
 #include "config/TableEditRules.h"
 #include "system/LineWidthRules.h"
 #include "system/PaperRules.h"
@@ -8,6 +10,7 @@
 
 #include <QTest>
 
+#include <climits>
 #include <limits>
 
 using namespace kesto::ui::config;
@@ -44,6 +47,10 @@ private slots:
         QTest::newRow("comma is no point") << "1,5" << 1.0 << 1;
         QTest::newRow("too large")
             << "99999999999" << 99999999999.0 << std::numeric_limits<int>::max();
+        QTest::newRow("too small")
+            << "-99999999999" << -99999999999.0 << std::numeric_limits<int>::min();
+        QTest::newRow("past 64 bits") << "99999999999999999999" << 1e20 << INT_MAX;
+        QTest::newRow("past 64 bits below") << "-99999999999999999999" << -1e20 << INT_MIN;
     }
     void typedTextIsReadAsTheCLibraryReadsNumbers()
     {
@@ -75,10 +82,7 @@ private slots:
         QFETCH(QString, states);
         const auto s =
             tableedit::buttonStates(5, selected, editable, [](int row) { return row < 2; });
-        QString got;
-        for (bool on : {s.add, s.insert, s.remove, s.up, s.down})
-            got += on ? u'1' : u'0';
-        QCOMPARE(got, states);
+        QCOMPARE(kesto::test::bits({s.add, s.insert, s.remove, s.up, s.down}), states);
         QCOMPARE(tableedit::buttonStates(2, 0, true, {}).up, false);
         QCOMPARE(tableedit::buttonStates(2, 1, true, {}).up, true);
     }
@@ -161,16 +165,12 @@ private slots:
         QVERIFY(!linewidthrules::widthTaken(widths, 0.6, &widths[1])); // its own width
         QCOMPARE(linewidthrules::indexOfWidthName({"0.13", "1"}, 1.0), 1);
         QCOMPARE(linewidthrules::indexOfWidthName({"0.13"}, 0.25), -1);
-    }
 
-    void aNewLineWidthShowsAgainstTheBackground()
-    {
+        // A new entry shows against the background; a drawing's width takes a new colour.
         const SLineWidth onBlack = linewidthrules::newEntry(0x000000);
-        QCOMPARE(onBlack.getColor(), 0xFFFFFFu);
-        QCOMPARE(onBlack.getColorName(), std::wstring(L"白"));
+        QVERIFY(onBlack.getColor() == 0xFFFFFFu && onBlack.getColorName() == L"白");
         const SLineWidth onWhite = linewidthrules::newEntry(0xFFFFFF);
-        QCOMPARE(onWhite.getColor(), 0x000000u);
-        QCOMPARE(onWhite.getColorName(), std::wstring(L"黒"));
+        QVERIFY(onWhite.getColor() == 0 && onWhite.getColorName() == L"黒");
         QVERIFY(!onWhite.isSystemDefault() && onWhite.getWidth() == 0.0);
         linewidthrules::SDrawingWidth drawing{nullptr, KsLineWidth(0.25), false};
         drawing.value.setColor(0xFF0000);

@@ -1,9 +1,13 @@
-// Keys as shortcuts store them, the shortcut setting, the command table with its shipped file,
-// and the command tree.
+// The host's side of the customising dialogs: keys as shortcuts store them, the shortcut
+// setting, the command table with its shipped file and the command tree; the mouse setting
+// and its file, the shortcut menu's items and the candidate-command records.
 #include "support/TestSupport.h"
 
 #include "command/CommandTable.h"
 #include "command/CommandTree.h"
+#include "setting/ContextMenuData.h"
+#include "setting/MouseCommands.h"
+#include "setting/MouseSetting.h"
 #include "setting/ShortCutSetting.h"
 #include "utility/VirtualKey.h"
 
@@ -15,7 +19,11 @@
 
 using namespace kesto;
 using namespace kesto::utility::keys;
+using ui::control::CContextMenuData;
+using ui::control::SContextMenuDataItem;
+using ui::setting::CMouseSetting;
 using ui::setting::CShortCutSetting;
+using ui::setting::SMouseSetting;
 using ui::setting::SShortCut;
 using utility::CCommandTable;
 
@@ -59,76 +67,105 @@ QStringList keyTexts(const CShortCutSetting& setting)
     return out;
 }
 
+utility::SCommand command(int number, const std::wstring& id, const std::wstring& name)
+{
+    utility::SCommand c;
+    c.number = number;
+    c.id = id;
+    c.name = name;
+    return c;
+}
+
+// The menu as text: commands by identifier, "|" for a separator item, "^" for a break mark.
+QString shape(const CContextMenuData& menu)
+{
+    QStringList out;
+    for (const SContextMenuDataItem& item : menu.items()) {
+        if (item.type == SContextMenuDataItem::Separator)
+            out << QStringLiteral("|");
+        else
+            out << (item.breakBefore ? QStringLiteral("^") : QString())
+                       + QString::fromStdWString(item.id);
+    }
+    return out.join(u' ');
+}
+
+CContextMenuData menuOf(const QString& text)
+{
+    CContextMenuData menu;
+    int pos = 0;
+    for (const QString& word : text.split(u' ', Qt::SkipEmptyParts)) {
+        if (word == u"|")
+            menu.insertBreak(pos);
+        else
+            menu.insertButton(pos, command(pos + 1, word.toStdWString(), L"name"), 0);
+        ++pos;
+    }
+    return menu;
+}
+
+SMouseSetting unusualView()
+{
+    SMouseSetting v;
+    v.showShortcutMenu = false;
+    v.wheelCommands = false;
+    v.shortcutMenu.addCommandId(L"ID_EDIT_UNDO");
+    v.shortcutMenu.addCommandId(L"ID_EDIT_ERASE", true);
+    v.shortcutMenu.setRecentCommand(true);
+    v.leftDragAction = 0;
+    v.bothButtonsAction = 7;
+    v.samePointCommand = L"ID_VIEW_REDRAW";
+    v.leftUpCommand = L"ID_A";
+    v.rightUpCommand = L"ID_B";
+    v.leftDownCommand = L"ID_C";
+    v.rightDownCommand = L"ID_D \"<&>\"";
+    v.wheelRotate = 4;
+    v.wheelDrag = 3;
+    v.wheelClick = L"ID_E";
+    v.ctrlWheelRotate = 2;
+    v.ctrlWheelDrag = 4;
+    v.ctrlWheelClick = L"ID_F";
+    v.shiftWheelRotate = 3;
+    v.stepZoomRate = 0.123456789012345;
+    v.wheelUpZoomsIn = false;
+    return v;
+}
+
+QDomElement elementOf(QDomDocument& doc, const QString& text)
+{
+    doc.setContent(text);
+    return doc.documentElement();
+}
+
 } // namespace
 
-class TestShortCutModel : public QObject {
+class TestCustomizeModel : public QObject {
     Q_OBJECT
 
 private slots:
-    void qtKeysMapToVirtualKeys_data()
-    {
-        QTest::addColumn<int>("qtKey");
-        QTest::addColumn<int>("modifiers");
-        QTest::addColumn<int>("vk");
-        const int keypad = Qt::KeypadModifier;
-        const int shift = Qt::ShiftModifier;
-        QTest::newRow("letter") << int(Qt::Key_S) << 0 << 0x53;
-        QTest::newRow("shifted letter") << int(Qt::Key_Z) << shift << 0x5A;
-        QTest::newRow("digit") << int(Qt::Key_7) << 0 << 0x37;
-        QTest::newRow("shift+1 reports !") << int(Qt::Key_Exclam) << shift << 0x31;
-        QTest::newRow("shift+0 reports )") << int(Qt::Key_ParenRight) << shift << 0x30;
-        QTest::newRow("F1") << int(Qt::Key_F1) << 0 << 0x70;
-        QTest::newRow("F13") << int(Qt::Key_F13) << 0 << 0x7C;
-        QTest::newRow("F24") << int(Qt::Key_F24) << 0 << 0x87;
-        QTest::newRow("keypad 0") << int(Qt::Key_0) << keypad << 0x60;
-        QTest::newRow("keypad 9") << int(Qt::Key_9) << keypad << 0x69;
-        QTest::newRow("keypad *") << int(Qt::Key_Asterisk) << keypad << 0x6A;
-        QTest::newRow("keypad +") << int(Qt::Key_Plus) << keypad << 0x6B;
-        QTest::newRow("keypad -") << int(Qt::Key_Minus) << keypad << 0x6D;
-        QTest::newRow("keypad .") << int(Qt::Key_Period) << keypad << 0x6E;
-        QTest::newRow("keypad /") << int(Qt::Key_Slash) << keypad << 0x6F;
-        QTest::newRow("keypad enter") << int(Qt::Key_Enter) << keypad << 0x0D;
-        QTest::newRow("keypad home (num lock off)") << int(Qt::Key_Home) << keypad << 0x24;
-        QTest::newRow("keypad 5 (num lock off)") << int(Qt::Key_Clear) << keypad << 0x0C;
-        QTest::newRow("home") << int(Qt::Key_Home) << 0 << 0x24;
-        QTest::newRow("end") << int(Qt::Key_End) << 0 << 0x23;
-        QTest::newRow("page up") << int(Qt::Key_PageUp) << 0 << 0x21;
-        QTest::newRow("page down") << int(Qt::Key_PageDown) << 0 << 0x22;
-        QTest::newRow("insert") << int(Qt::Key_Insert) << 0 << 0x2D;
-        QTest::newRow("delete") << int(Qt::Key_Delete) << 0 << 0x2E;
-        QTest::newRow("backspace") << int(Qt::Key_Backspace) << 0 << 0x08;
-        QTest::newRow("shift+tab") << int(Qt::Key_Backtab) << shift << 0x09;
-        QTest::newRow("minus") << int(Qt::Key_Minus) << 0 << 0xBD;
-        QTest::newRow("underscore") << int(Qt::Key_Underscore) << shift << 0xBD;
-        QTest::newRow("semicolon") << int(Qt::Key_Semicolon) << 0 << 0xBA;
-        QTest::newRow("colon") << int(Qt::Key_Colon) << shift << 0xBA;
-        QTest::newRow("equal") << int(Qt::Key_Equal) << 0 << 0xBB;
-        QTest::newRow("comma") << int(Qt::Key_Comma) << 0 << 0xBC;
-        QTest::newRow("period") << int(Qt::Key_Period) << 0 << 0xBE;
-        QTest::newRow("slash") << int(Qt::Key_Slash) << 0 << 0xBF;
-        QTest::newRow("grave") << int(Qt::Key_QuoteLeft) << 0 << 0xC0;
-        QTest::newRow("bracket left") << int(Qt::Key_BracketLeft) << 0 << 0xDB;
-        QTest::newRow("backslash") << int(Qt::Key_Backslash) << 0 << 0xDC;
-        QTest::newRow("yen") << int(Qt::Key_yen) << 0 << 0xDC;
-        QTest::newRow("bracket right") << int(Qt::Key_BracketRight) << 0 << 0xDD;
-        QTest::newRow("apostrophe") << int(Qt::Key_Apostrophe) << 0 << 0xDE;
-        QTest::newRow("muhenkan") << int(Qt::Key_Muhenkan) << 0 << 0x1D;
-        QTest::newRow("eisu") << int(Qt::Key_Eisu_toggle) << 0 << 0xF0;
-        QTest::newRow("windows key") << int(Qt::Key_Super_L) << 0 << 0x5B;
-        QTest::newRow("menu key") << int(Qt::Key_Menu) << 0 << 0x5D;
-        QTest::newRow("num lock") << int(Qt::Key_NumLock) << 0 << 0x90;
-        QTest::newRow("unknown") << int(Qt::Key_unknown) << 0 << 0;
-    }
+    // Keypad keys by the keypad modifier (home and clear with num lock off), shifted symbols to
+    // the key that carries them.
     void qtKeysMapToVirtualKeys()
     {
-        QFETCH(int, qtKey);
-        QFETCH(int, modifiers);
-        QFETCH(int, vk);
-        QCOMPARE(int(virtualKeyOf(qtKey, Qt::KeyboardModifiers(modifiers))), vk);
-    }
-
-    void eventsGiveFlagsAndKey()
-    {
+        // Qt key, modifiers (test::modifiersOf; - for none), virtual key in hex.
+        const QString keys = QStringLiteral(
+            "Key_S - 53, Key_Z S 5A, Key_7 - 37, Key_Exclam S 31, Key_ParenRight S 30, "
+            "Key_F1 - 70, Key_F13 - 7C, Key_F24 - 87, Key_0 K 60, Key_9 K 69, Key_Asterisk K 6A, "
+            "Key_Plus K 6B, Key_Minus K 6D, Key_Period K 6E, Key_Slash K 6F, Key_Enter K 0D, "
+            "Key_Home K 24, Key_Clear K 0C, Key_Home - 24, Key_End - 23, Key_PageUp - 21, "
+            "Key_PageDown - 22, Key_Insert - 2D, Key_Delete - 2E, Key_Backspace - 08, "
+            "Key_Backtab S 09, Key_Minus - BD, Key_Underscore S BD, Key_Semicolon - BA, "
+            "Key_Colon S BA, Key_Equal - BB, Key_Comma - BC, Key_Period - BE, Key_Slash - BF, "
+            "Key_QuoteLeft - C0, Key_BracketLeft - DB, Key_Backslash - DC, Key_yen - DC, "
+            "Key_BracketRight - DD, Key_Apostrophe - DE, Key_Muhenkan - 1D, "
+            "Key_Eisu_toggle - F0, Key_Super_L - 5B, Key_Menu - 5D, Key_NumLock - 90, "
+            "Key_unknown - 00");
+        for (const QString& entry : keys.split(QStringLiteral(", "))) {
+            const QStringList parts = entry.split(u' ');
+            const int vk = virtualKeyOf(test::keyNamed(parts[0]), test::modifiersOf(parts[1]));
+            const QString hex = QString::number(vk, 16).toUpper().rightJustified(2, u'0');
+            QCOMPARE(parts[0] + u' ' + parts[1] + u' ' + hex, entry);
+        }
         const QKeyEvent ctrlShiftS(QEvent::KeyPress, Qt::Key_S,
                                    Qt::ControlModifier | Qt::ShiftModifier);
         QCOMPARE(keyStrokeOf(ctrlShiftS), (SKeyStroke{1 | 4 | 8, 0x53}));
@@ -138,6 +175,7 @@ private slots:
         QCOMPARE(keyStrokeOf(num5), (SKeyStroke{1, 0x65}));
     }
 
+    // Key texts are clear and each reads back; malformed texts are refused.
     void keyTextsAreClear()
     {
         QCOMPARE(keyStrokeText(1 | 4 | 8, 'S'), QStringLiteral("Ctrl+Shift+S"));
@@ -148,6 +186,11 @@ private slots:
         QCOMPARE(keyStrokeText(kCtrl, 0xE1), QStringLiteral("Ctrl+0xE1"));
         QCOMPARE(keyStrokeText(kCtrl, 0), QString());
         QCOMPARE(SShortCut::makeShortCutSz(9, 83), std::wstring(L"Ctrl+S"));
+        for (const char* text :
+             {"", "Ctrl+", "Hyper+S", "Ctrl+Ctrl+S", "0x00", "0x1FF", "SS", "Ctrl S"})
+            QVERIFY2(!parseKeyStroke(QString::fromLatin1(text)), text);
+        QCOMPARE(*parseKeyStroke(QStringLiteral(" shift+ctrl+f5 ")), (SKeyStroke{1 | 4 | 8, 0x74}));
+        QCOMPARE(*parseKeyStroke(QStringLiteral("Ctrl+Num +")), (SKeyStroke{kCtrl, 0x6B}));
     }
 
     // Rows are found by their key text, so every key must have a text of its own that reads back.
@@ -166,15 +209,6 @@ private slots:
                 QVERIFY2(back && *back == (SKeyStroke{accel, key}), qPrintable(text));
             }
         }
-    }
-
-    void malformedKeyTextsAreRefused()
-    {
-        for (const char* text :
-             {"", "Ctrl+", "Hyper+S", "Ctrl+Ctrl+S", "0x00", "0x1FF", "SS", "Ctrl S"})
-            QVERIFY2(!parseKeyStroke(QString::fromLatin1(text)), text);
-        QCOMPARE(*parseKeyStroke(QStringLiteral(" shift+ctrl+f5 ")), (SKeyStroke{1 | 4 | 8, 0x74}));
-        QCOMPARE(*parseKeyStroke(QStringLiteral("Ctrl+Num +")), (SKeyStroke{kCtrl, 0x6B}));
     }
 
     void aKeyBelongsToOneCommand()
@@ -199,21 +233,17 @@ private slots:
         QVERIFY(!setting.deleteItem(L"Ctrl+O"));
         QVERIFY(setting.deleteItem(1, 0x74));
         QCOMPARE(keyTexts(setting), QStringList({"Ctrl+S=20"}));
-    }
 
-    void sameBindingsInAnotherOrderAreTheSame()
-    {
-        CShortCutSetting a;
-        a.addItem(kCtrl, 'S', 10, L"ID_FILE_SAVE", L"上書き保存");
-        a.addItem(kCtrl, 'O', 12, L"ID_FILE_OPEN", L"開く");
-        CShortCutSetting b;
-        b.addItem(kCtrl, 'O', 12, L"ID_FILE_OPEN", L"開く");
-        b.addItem(kCtrl, 'S', 10, L"ID_FILE_SAVE", L"上書き保存");
-        QVERIFY(a.isSame(b));
-        b.addItem(kCtrl, 'S', 12, L"ID_FILE_OPEN", L"開く");
-        QVERIFY(!a.isSame(b));
-        b.deleteItem(kCtrl, 'S');
-        QVERIFY(!a.isSame(b));
+        // The same bindings in another order are the same.
+        CShortCutSetting other;
+        other.addItem(kCtrl, 'O', 12, L"ID_FILE_OPEN", L"開く");
+        other.addItem(kCtrl, 'S', 20, L"ID_DRAW_LINE", L"線分");
+        setting.addItem(kCtrl, 'O', 12, L"ID_FILE_OPEN", L"開く");
+        QVERIFY(setting.isSame(other));
+        other.addItem(kCtrl, 'S', 12, L"ID_FILE_OPEN", L"開く");
+        QVERIFY(!setting.isSame(other));
+        other.deleteItem(kCtrl, 'S');
+        QVERIFY(!setting.isSame(other));
     }
 
     void defaultsComeFromTheTableWithoutTakingAKeyTwice()
@@ -341,7 +371,132 @@ private slots:
         ui::helper::setupCommandTree(tree, nullptr, ui::helper::SCT_ALL, IMainFrame::FrameMode2D);
         QCOMPARE(tree.topLevelItemCount(), 0);
     }
+
+    // Stored breaks become separator items and back; separators a menu cannot show (leading,
+    // trailing, doubled) are dropped.
+    void breaksSeparateIntoItemsAndMergeBack()
+    {
+        CContextMenuData menu;
+        menu.addCommandId(L"A");
+        menu.addCommandId(L"B", true);
+        menu.addCommandId(L"C", true);
+        menu.separateBreaks();
+        menu.separateBreaks(); // nothing left to split
+        QCOMPARE(shape(menu), QStringLiteral("A | B | C"));
+        menu.mergeBreaks();
+        QCOMPARE(shape(menu), QStringLiteral("A ^B ^C"));
+        menu = menuOf(QStringLiteral("| | A | | B |"));
+        menu.mergeBreaks();
+        QCOMPARE(shape(menu), QStringLiteral("A ^B"));
+        menu = menuOf(QStringLiteral("| |"));
+        menu.mergeBreaks();
+        QCOMPARE(menu.getCount(), 0);
+    }
+
+    void itemsAreEditedByPosition()
+    {
+        CContextMenuData menu;
+        menu.addButton(command(1, L"A", L"エー"), 0);
+        menu.addButton(command(2, L"B", L"ビー"), 0);
+        QVERIFY(menu.insertButton(1, command(3, L"C", L"シー"), 2));
+        QVERIFY(menu.insertButton(3, command(4, L"D", L"ディー"), 0)); // at the end
+        QVERIFY(!menu.insertButton(5, command(5, L"E", L"イー"), 0));
+        QVERIFY(!menu.insertButton(-1, command(5, L"E", L"イー"), 0));
+        QCOMPARE(shape(menu), QStringLiteral("A C B D"));
+        const SContextMenuDataItem& c = *menu.getItem(1);
+        QVERIFY(c.style == 2 && c.name == L"シー" && c.commandNumber == 3);
+        QVERIFY(menu.insertBreak(0));
+        QVERIFY(menu.moveItemNext(0));
+        QCOMPARE(shape(menu), QStringLiteral("A | C B D"));
+        QVERIFY(!menu.moveItemPrev(0));
+        QVERIFY(!menu.moveItemNext(4));
+        QVERIFY(menu.moveItemPrev(4));
+        QCOMPARE(shape(menu), QStringLiteral("A | C D B"));
+        QVERIFY(menu.deleteItem(1));
+        QVERIFY(!menu.deleteItem(4));
+        QCOMPARE(shape(menu), QStringLiteral("A C D B"));
+
+        SContextMenuDataItem item;
+        QStringList walked;
+        for (int pass = 0; pass < 2; ++pass) {
+            menu.ResetItemPos();
+            while (menu.GetNextItem(item))
+                walked << QString::fromStdWString(item.id);
+        }
+        QCOMPARE(walked.join(u' '), QStringLiteral("A C D B A C D B"));
+    }
+
+    void everyFieldOfBothViewsSurvivesTheFile()
+    {
+        test::HostFixture host;
+        CMouseSetting setting = CMouseSetting::makeDefault();
+        setting.setMouseSetting(CMouseSetting::k3DView, unusualView());
+        CMouseSetting loaded;
+        QVERIFY(test::roundTrips(host, setting, loaded));
+        QVERIFY(*loaded.getMouseSetting(L"3DView") == unusualView());
+        QCOMPARE(loaded.getMouseSetting(L"3DView")->stepZoomRate, 0.123456789012345);
+        QVERIFY(loaded.getMouseSetting(L"2DView")->shortcutMenu
+                == CMouseSetting::makeDefault().getMouseSetting(L"2DView")->shortcutMenu);
+        QVERIFY(!loaded.getMouseSetting(L"3dview"));
+        QVERIFY(!loaded.getMouseSetting(nullptr));
+        // Views are replaced by name, and removed.
+        SMouseSetting view;
+        view.wheelRotate = 2;
+        loaded.setMouseSetting(CMouseSetting::k2DView, view);
+        QCOMPARE(loaded.viewCount(), std::size_t(2));
+        QCOMPARE(loaded.getMouseSetting(L"2DView")->wheelRotate, 2);
+        QVERIFY(loaded.removeMouseSetting(L"2DView"));
+        QVERIFY(!loaded.removeMouseSetting(L"2DView"));
+        QCOMPARE(loaded.viewCount(), std::size_t(1));
+    }
+
+    void aMalformedFileChangesNothing()
+    {
+        test::HostFixture host;
+        const char* broken[] = {
+            R"(<MouseSetting><View name="2DView" wheelRotate="x"/></MouseSetting>)",
+            R"(<MouseSetting><View name="2DView" stepZoomRate="inf"/></MouseSetting>)",
+            R"(<MouseSetting><View name="2DView" wheelCommands="yes"/></MouseSetting>)",
+            R"(<MouseSetting><View name=""/></MouseSetting>)",
+            R"(<MouseSetting><View name="2DView"/><View name="2DView"/></MouseSetting>)",
+            R"(<MouseSetting><View name="2DView"><ShortcutMenu><Item id=""/></ShortcutMenu></View></MouseSetting>)",
+            R"(<MouseSetting><View name="2DView">)",
+        };
+        CMouseSetting setting = CMouseSetting::makeDefault();
+        for (const char* text : broken) {
+            QVERIFY2(!test::loadsText(host, setting, text), text);
+            QVERIFY(setting.isSame(CMouseSetting::makeDefault()));
+        }
+        // Fields left out keep their defaults.
+        QVERIFY(test::loadsText(
+            host, setting,
+            R"(<MouseSetting><View name="2DView" wheelRotate="2"/></MouseSetting>)"));
+        QCOMPARE(setting.viewCount(), std::size_t(1));
+        SMouseSetting expected;
+        expected.wheelRotate = 2;
+        QVERIFY(*setting.getMouseSetting(L"2DView") == expected);
+    }
+
+    void candidateRecordsNeedAViewAndIdentifiers()
+    {
+        QDomDocument doc;
+        ui::setting::SMouseCommands record;
+        QVERIFY(record.loadXMLNode(elementOf(
+            doc, QStringLiteral(
+                     R"(<Commands view="2DView"><Menu><Command id="A"/><Command id=" B "/></Menu>
+               <Action><Command id="C"/></Action></Commands>)"))));
+        QCOMPARE(record.viewName, std::wstring(L"2DView"));
+        QCOMPARE(record.menuCommands, (std::vector<std::wstring>{L"A", L"B"}));
+        QCOMPARE(record.actionCommands, (std::vector<std::wstring>{L"C"}));
+        QVERIFY(
+            !record.loadXMLNode(elementOf(doc, QStringLiteral(R"(<Commands><Menu/></Commands>)"))));
+        QVERIFY(!record.loadXMLNode(elementOf(
+            doc, QStringLiteral(R"(<Commands view="3DView"><Menu><Command/></Menu></Commands>)"))));
+        QCOMPARE(record.viewName, std::wstring(L"2DView")); // unchanged
+        QVERIFY(record.loadXMLNode(elementOf(doc, QStringLiteral(R"(<Commands view="3DView"/>)"))));
+        QVERIFY(record.menuCommands.empty() && record.actionCommands.empty());
+    }
 };
 
-QTEST_MAIN(TestShortCutModel)
-#include "tst_shortcutmodel.moc"
+QTEST_MAIN(TestCustomizeModel)
+#include "tst_customizemodel.moc"

@@ -8,7 +8,6 @@
 #include <QPointer>
 
 #include <functional>
-#include <source_location>
 
 namespace kesto::ui::framework {
 
@@ -54,16 +53,15 @@ public:
     }
 
 protected:
-    // Runs a message handler under the dialog's class name and the calling function's name,
-    // which an exception is logged with.
+    // Runs a message handler under the dialog's class name and the calling function's bare
+    // name ("OnOK"), which an exception is logged with.
     template <class F>
-    decltype(auto) guarded(F&& handler,
-                           std::source_location where = std::source_location::current()) const
+    decltype(auto) guarded(F&& handler, const char* method = __builtin_FUNCTION()) const
     {
         try {
             return std::forward<F>(handler)();
         } catch (...) {
-            logHandlerException(handlerClass(), methodOf(where));
+            logHandlerException(handlerClass(), QString::fromLatin1(method));
             throw;
         }
     }

@@ -63,7 +63,7 @@ template <class Element>
 void addTwoBoundaries(Element& e)
 {
     e.addBoundary(boundary(false, kOuterAttributes));
-    e.addBoundary(boundary(true, {kBlue, KsLineType::byLayer(), KsLineWidth(0.7, 9)}));
+    e.addBoundary(boundary(true, {kBlue, KsLineType::byLayer(), KsLineWidth(0.7, -1)}));
 }
 
 std::shared_ptr<CFigureHatchElement> figureElement(const wchar_t* baseFigure)
@@ -332,7 +332,7 @@ private slots:
         slant->addUnreadableLine();
         CSlantHatchLine second({10.0, 20.0, 30.0, 40.0, 50.0});
         give(second, {std::nullopt, KsLineType(9, L"レイヤ線種", KsLineType::ByLayer),
-                      KsLineWidth(0.5, KsLineWidth::Bold)});
+                      KsLineWidth(0.5, KsLineWidth::ByLayer)});
         slant->addLine(second);
         slant->addLine(CSlantHatchLine({-1.0, -2.0, 0.0, 90.0, 2.5}));
 
@@ -343,9 +343,9 @@ private slots:
         QStringList lines;
         for (const auto& line : data.drawingHatch.slantPattern.lines)
             lines << text(line);
-        // Width kind 7 is not a kind; a line without an attribute has it as cleared.
+        // Width kind 7 is not a kind, by layer (the first) is; a missing attribute is as cleared.
         QCOMPARE(lines, QStringList({"#FF0000/1赤 一点鎖線 0:0.35 1,2 every 5 at 4",
-                                     "#000000/1 * 3:0.5 10,20 every 50 at 40",
+                                     "#000000/1 * 1:0.5 10,20 every 50 at 40",
                                      "#000000/1  0:0 -1,-2 every 2.5 at 90"}));
         QCOMPARE(text(data.drawingHatch.slantPattern.outerFrame),
                  "0 #FF0000/1赤 破線 3:0.5 keep 0000");
@@ -391,7 +391,8 @@ private slots:
     void framesTakeOnlyTheAttributesTheyDoNotKeep()
     {
         Host host;
-        const Attributes byLayer{std::nullopt, KsLineType::byLayer(), KsLineWidth(0.25, -1)};
+        const Attributes byLayer{std::nullopt, KsLineType::byLayer(),
+                                 KsLineWidth(0.25, KsLineWidth::ExtraBold)};
         const std::tuple<bool, const char*, CBoundary, const char*> cases[] = {
             {false, "0000", boundary(false, kOuterAttributes),
              "0 #FF0000/1赤 破線 3:0.5 keep 0000"},
@@ -399,9 +400,9 @@ private slots:
              "1 #000000/0レイヤ依存 二点鎖線 2:0.13 keep 1111"},
             // Without attributes only the draw flag changes.
             {false, "0000", boundary(false), "0 #000000/0レイヤ依存 二点鎖線 2:0.13 keep 0000"},
-            // Kind 3 sets the flag and leaves the name; unknown width kinds become values.
+            // Kind 3 sets the flag and leaves the name; extra bold, the last kind, is kept.
             {false, "0000", boundary(true, byLayer),
-             "1 #000000/0レイヤ依存 *二点鎖線 0:0.25 keep 0000"},
+             "1 #000000/0レイヤ依存 *二点鎖線 4:0.25 keep 0000"},
             {true, "0010", boundary(true, kOuterAttributes),
              "1 #FF0000/1赤 *二点鎖線 3:0.5 keep 0010"},
         };

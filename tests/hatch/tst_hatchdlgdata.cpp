@@ -63,7 +63,7 @@ template <class Element>
 void addTwoBoundaries(Element& e)
 {
     e.addBoundary(boundary(false, kOuterAttributes));
-    e.addBoundary(boundary(true, {kBlue, KsLineType::byLayer(), KsLineWidth(0.7, 9)}));
+    e.addBoundary(boundary(true, {kBlue, KsLineType::byLayer(), KsLineWidth(0.7, -1)}));
 }
 
 std::shared_ptr<CFigureHatchElement> figureElement(const wchar_t* baseFigure)
@@ -99,6 +99,57 @@ bool sameHatch(const SDrawingHatch& a, const SDrawingHatch& b)
            && a.holdPattern == b.holdPattern;
 }
 
+// The request fields: request, mode, picked or not, line index, list command, reference
+// enabled; then the hatch's kind, available inner frames and reference element or not.
+QString state(const SHatchSettingDlgData& d)
+{
+    return QStringLiteral("%1 %2 %3 %4 %5 %6 | %7 %8 %9")
+        .arg(d.requestCode)
+        .arg(int(d.mode))
+        .arg(d.pickedElement ? "picked" : "-")
+        .arg(d.slantLineIndex)
+        .arg(d.listCommand)
+        .arg(int(d.referenceEnabled))
+        .arg(d.drawingHatch.hatchType)
+        .arg(d.drawingHatch.innerFrameAvailable)
+        .arg(d.drawingHatch.referenceElement ? "ref" : "-");
+}
+
+QString text(const KsColor& c)
+{
+    return KsColor::rgbText(c.getRGB()) + u'/' + QString::number(c.getColorType())
+           + QString::fromStdWString(c.getName());
+}
+
+// "colour line-type kind:width", a by-layer line type marked with "*" before its name.
+QString look(const KsColor& color, bool byLayer, const std::wstring& type, int kind, double width)
+{
+    return QStringLiteral("%1 %2%3 %4:%5")
+        .arg(text(color), byLayer ? "*" : "", QString::fromStdWString(type))
+        .arg(kind)
+        .arg(width);
+}
+
+// The frame's look after its draw flag; its keep flags after "keep".
+QString text(const SHatchFrame& f)
+{
+    return test::bits({f.drawFrame}) + u' '
+           + look(f.color, f.lineTypeFlag, f.lineTypeName, f.lineWidthKind, f.lineWidth)
+           + QStringLiteral(" keep ")
+           + test::bits({f.keepDrawFrame, f.keepColor, f.keepLineType, f.keepLineWidth});
+}
+
+// The line's look, then "x,y every spacing at angle".
+QString text(const ui::setting::SSlantPatternLine& l)
+{
+    return look(l.color, l.lineTypeFlag, l.lineTypeName, l.lineWidthKind, l.lineWidth)
+           + QStringLiteral(" %1,%2 every %3 at %4")
+                 .arg(l.placementX)
+                 .arg(l.placementY)
+                 .arg(l.spacing)
+                 .arg(l.angle);
+}
+
 // Neither a figure nor a slant hatch nor a coating, or a kind without its data.
 class OddHatch : public element::CHatchElementBase {
 public:
@@ -119,10 +170,7 @@ class TestHatchDlgData : public QObject {
 private slots:
     void clearResetsTheRequestAndAsksTheHostForADrawing()
     {
-        const SHatchSettingDlgData bare; // no host at all
-        QCOMPARE(bare.mode, SHatchSettingDlgData::ModeNone);
-        QCOMPARE(bare.drawingHatch.hatchType, 1);
-        QVERIFY(!bare.referenceEnabled);
+        QCOMPARE(state(SHatchSettingDlgData()), QStringLiteral("0 0 - 0 0 0 | 1 0 -")); // no host
 
         test::HostFixture host;
         CMemoryDataBase drawing(L"平面図");
@@ -143,17 +191,10 @@ private slots:
 
         ui::refDlg::SRefDlgData& base = data;
         base.clear(); // the record's own clear
-        QCOMPARE(data.requestCode, 0);
-        QVERIFY(!data.pickedElement);
-        QCOMPARE(data.mode, SHatchSettingDlgData::ModeNone);
+        QCOMPARE(state(data), QStringLiteral("0 0 - 0 0 1 | 1 0 -"));
         SDrawingHatch reset;
         reset.initByDefault();
         QVERIFY(sameHatch(data.drawingHatch, reset));
-        QCOMPARE(data.drawingHatch.innerFrameAvailable, std::int64_t(0));
-        QVERIFY(!data.drawingHatch.referenceElement);
-        QCOMPARE(data.slantLineIndex, std::int64_t(0));
-        QCOMPARE(data.listCommand, std::int64_t(0));
-        QVERIFY(data.referenceEnabled);
 
         host.config().setCurrentDataBase(nullptr);
         data.clear();
@@ -176,19 +217,12 @@ private slots:
         const SHatchSettingDlgData copy(data);
         SHatchSettingDlgData assigned;
         assigned = data;
-        for (const SHatchSettingDlgData* c :
-             {&copy, static_cast<const SHatchSettingDlgData*>(&assigned)}) {
-            QCOMPARE(c->requestCode, 2);
-            QVERIFY(c->referenceEnabled);
-            QCOMPARE(c->pickedElement.get(), picked.get());
-            QCOMPARE(c->mode, SHatchSettingDlgData::ModeSlantAngle);
-            QVERIFY(sameHatch(c->drawingHatch, data.drawingHatch));
-            QCOMPARE(c->slantLineIndex, std::int64_t(1));
-            QCOMPARE(c->listCommand, std::int64_t(1007));
-        }
         assigned = assigned;
-        QCOMPARE(assigned.listCommand, std::int64_t(1007));
-        QVERIFY(assigned.drawingHatch.slantPattern.name == L"盛土");
+        for (const SHatchSettingDlgData* c : {&copy, &std::as_const(assigned)}) {
+            QCOMPARE(state(*c), QStringLiteral("2 13 picked 1 1007 1 | 2 0 -"));
+            QCOMPARE(c->pickedElement, picked);
+            QVERIFY(sameHatch(c->drawingHatch, data.drawingHatch));
+        }
     }
 
     void theSlashLineIsTheIndexedLineOfASingleValueSlantReference()
@@ -220,22 +254,21 @@ private slots:
         MessageBoxRecorder boxes;
         auto noBoundary =
             std::make_shared<CFigureHatchElement>(L"間知石", CFigureHatchElement::Placement{});
-        auto onlyInner = std::make_shared<CSlantHatchElement>();
         auto kindless = std::make_shared<OddHatch>(false);
         kindless->addBoundary(boundary(true));
         auto figureWithoutData = std::make_shared<OddHatch>(true);
         figureWithoutData->addBoundary(boundary(true));
-        const std::vector<std::shared_ptr<KsObject>> refused = {
-            nullptr, std::make_shared<KsLayer>(L"道路"), noBoundary, kindless, figureWithoutData};
-        for (const auto& element : refused) {
-            SHatchSettingDlgData data = picking(element, Mode::ModeFigure);
-            const SHatchSettingDlgData before = data;
-            QVERIFY(!data.setDrawHatchFromHandle());
-            QVERIFY(sameHatch(data.drawingHatch, before.drawingHatch));
-        }
+        std::vector<std::pair<std::shared_ptr<KsObject>, int>> refused = {
+            {nullptr, Mode::ModeFigure},
+            {std::make_shared<KsLayer>(L"道路"), Mode::ModeFigure},
+            {noBoundary, Mode::ModeFigure},
+            {kindless, Mode::ModeFigure},
+            {figureWithoutData, Mode::ModeFigure}};
         // The single-value modes are the dialog's own business.
-        for (int mode : {0, 2, 3, 4, 5, 6, 7, 8, 9, 11, 12, 13, 17}) {
-            SHatchSettingDlgData data = picking(figureElement(L"間知石"), Mode(mode));
+        for (int mode : {0, 2, 3, 4, 5, 6, 7, 8, 9, 11, 12, 13, 17})
+            refused.emplace_back(figureElement(L"間知石"), mode);
+        for (const auto& [element, mode] : refused) {
+            SHatchSettingDlgData data = picking(element, Mode(mode));
             data.drawingHatch.hatchType = 3;
             const SHatchSettingDlgData before = data;
             QVERIFY2(!data.setDrawHatchFromHandle(), qPrintable(QString::number(mode)));
@@ -260,9 +293,8 @@ private slots:
             // In the element's order: base angle, angle 1, length 1, angle 2, length 2, size.
             QVERIFY(figure.placement
                     == (ui::setting::SFigurePattern::Placement{1.0, 2.0, 3.0, 4.0, 5.0, 6.0, 7.0}));
-            QVERIFY(!figure.outerFrame.drawFrame);
-            QVERIFY(figure.outerFrame.color == kRed);
-            QVERIFY(figure.innerFrame.color == kBlue);
+            QCOMPARE(text(figure.outerFrame), "0 #FF0000/1赤 破線 3:0.5 keep 0000");
+            QCOMPARE(text(figure.innerFrame), "1 #0000FF/1青 *実線 0:0.7 keep 0000");
             QVERIFY(data.drawingHatch.slantPattern == before.drawingHatch.slantPattern);
             QVERIFY(data.drawingHatch.coatingPattern == before.drawingHatch.coatingPattern);
         }
@@ -275,10 +307,9 @@ private slots:
         SHatchSettingDlgData data = picking(figureElement(L"六角ブロック"), Mode::ModeFigure);
         const SHatchSettingDlgData before = data;
         QVERIFY(!data.setDrawHatchFromHandle());
-        QCOMPARE(boxes.count(), std::size_t(1));
-        QCOMPARE(boxes.last().text, QStringLiteral("基本図形[六角ブロック]がシステムに登録されて\n"
-                                                   "いないパターンハッチングは参照できません。"));
-        QCOMPARE(boxes.last().caption, QStringLiteral("ハッチングパターンの設定"));
+        QCOMPARE(test::lastBox(boxes),
+                 QStringLiteral("ハッチングパターンの設定|基本図形[六角ブロック]がシステムに登録"
+                                "されて\nいないパターンハッチングは参照できません。"));
         QCOMPARE(boxes.last().type & 0xFu, unsigned(ui::framework::MB_OK));
         QVERIFY(sameHatch(data.drawingHatch, before.drawingHatch));
 
@@ -301,7 +332,7 @@ private slots:
         slant->addUnreadableLine();
         CSlantHatchLine second({10.0, 20.0, 30.0, 40.0, 50.0});
         give(second, {std::nullopt, KsLineType(9, L"レイヤ線種", KsLineType::ByLayer),
-                      KsLineWidth(0.5, KsLineWidth::Bold)});
+                      KsLineWidth(0.5, KsLineWidth::ByLayer)});
         slant->addLine(second);
         slant->addLine(CSlantHatchLine({-1.0, -2.0, 0.0, 90.0, 2.5}));
 
@@ -309,30 +340,15 @@ private slots:
         data.drawingHatch.slantPattern.lines.resize(4);
         QVERIFY(data.setDrawHatchFromHandle());
         QCOMPARE(data.drawingHatch.hatchType, 2);
-        const auto& lines = data.drawingHatch.slantPattern.lines;
-        QCOMPARE(lines.size(), std::size_t(3));
-
-        QVERIFY(lines[0].color == kRed);
-        QVERIFY(!lines[0].lineTypeFlag);
-        QVERIFY(lines[0].lineTypeName == L"一点鎖線");
-        QCOMPARE(lines[0].lineWidthKind, 0); // kind 7 is not a kind
-        QCOMPARE(lines[0].lineWidth, 0.35);
-        QCOMPARE(lines[0].placementX, 1.0);
-        QCOMPARE(lines[0].placementY, 2.0);
-        QCOMPARE(lines[0].spacing, 5.0);
-        QCOMPARE(lines[0].angle, 4.0);
-
-        QVERIFY(lines[1].lineTypeFlag);
-        QVERIFY(lines[1].lineTypeName.empty());
-        QVERIFY(lines[1].color == KsColor()); // no colour attribute: as cleared
-        QCOMPARE(lines[1].lineWidthKind, int(KsLineWidth::Bold));
-        QCOMPARE(lines[1].spacing, 50.0);
-
-        const ui::setting::SSlantPatternLine cleared;
-        QVERIFY(lines[2].color == cleared.color && lines[2].lineTypeName.empty());
-        QCOMPARE(lines[2].lineWidthKind, cleared.lineWidthKind);
-        QCOMPARE(lines[2].angle, 90.0);
-        QVERIFY(data.drawingHatch.slantPattern.outerFrame.color == kRed);
+        QStringList lines;
+        for (const auto& line : data.drawingHatch.slantPattern.lines)
+            lines << text(line);
+        // Width kind 7 is not a kind, by layer (the first) is; a missing attribute is as cleared.
+        QCOMPARE(lines, QStringList({"#FF0000/1赤 一点鎖線 0:0.35 1,2 every 5 at 4",
+                                     "#000000/1 * 1:0.5 10,20 every 50 at 40",
+                                     "#000000/1  0:0 -1,-2 every 2.5 at 90"}));
+        QCOMPARE(text(data.drawingHatch.slantPattern.outerFrame),
+                 "0 #FF0000/1赤 破線 3:0.5 keep 0000");
     }
 
     void aCoatingIsTakenWithoutItsDrawingOrder()
@@ -354,13 +370,14 @@ private slots:
         pattern.drawOrder = 3;
         QVERIFY(data.setDrawHatchFromHandle());
         QCOMPARE(data.drawingHatch.hatchType, 3);
-        QVERIFY(pattern.sameAsBackground);
-        QVERIFY(pattern.color == kBlue);
-        QCOMPARE(pattern.brushKind, 8);
-        QVERIFY(pattern.transparent);
-        QCOMPARE(pattern.transparencyRate, 40);
-        QCOMPARE(pattern.drawOrder, 3);
-        QVERIFY(!pattern.drawAtBack);
+        QCOMPARE(QStringLiteral("%1 %2 %3 %4 %5")
+                     .arg(test::bits(
+                              {pattern.sameAsBackground, pattern.transparent, pattern.drawAtBack}),
+                          text(pattern.color))
+                     .arg(pattern.brushKind)
+                     .arg(pattern.transparencyRate)
+                     .arg(pattern.drawOrder),
+                 QStringLiteral("110 #0000FF/1青 8 40 3"));
         QVERIFY(pattern.innerFrame.color == kBlue);
 
         coating->attributes().clear();
@@ -369,58 +386,44 @@ private slots:
         QVERIFY(pattern.color == kRed); // no colour attribute: kept
     }
 
+    // Each row: the start frame's by-layer line type and keep flags, the boundary, the frame
+    // taken. An inner boundary is never there, so the inner frame stays as it started.
     void framesTakeOnlyTheAttributesTheyDoNotKeep()
     {
         Host host;
-        const auto take = [](const SHatchFrame& start, CBoundary b) {
-            auto e = std::make_shared<CCoatingElement>(CCoatingElement::Fill{});
-            e->addBoundary(std::move(b));
-            SHatchSettingDlgData data = picking(e, Mode::ModeCoating);
-            data.drawingHatch.coatingPattern.outerFrame = start;
-            data.drawingHatch.coatingPattern.innerFrame = start;
-            [&] { QVERIFY(data.setDrawHatchFromHandle()); }();
-            // No inner boundary: the inner frame stays.
-            [&] { QVERIFY(data.drawingHatch.coatingPattern.innerFrame == start); }();
-            return data.drawingHatch.coatingPattern.outerFrame;
+        const Attributes byLayer{std::nullopt, KsLineType::byLayer(),
+                                 KsLineWidth(0.25, KsLineWidth::ExtraBold)};
+        const std::tuple<bool, const char*, CBoundary, const char*> cases[] = {
+            {false, "0000", boundary(false, kOuterAttributes),
+             "0 #FF0000/1赤 破線 3:0.5 keep 0000"},
+            {false, "1111", boundary(false, kOuterAttributes),
+             "1 #000000/0レイヤ依存 二点鎖線 2:0.13 keep 1111"},
+            // Without attributes only the draw flag changes.
+            {false, "0000", boundary(false), "0 #000000/0レイヤ依存 二点鎖線 2:0.13 keep 0000"},
+            // Kind 3 sets the flag and leaves the name; extra bold, the last kind, is kept.
+            {false, "0000", boundary(true, byLayer),
+             "1 #000000/0レイヤ依存 *二点鎖線 4:0.25 keep 0000"},
+            {true, "0010", boundary(true, kOuterAttributes),
+             "1 #FF0000/1赤 *二点鎖線 3:0.5 keep 0010"},
         };
-        SHatchFrame start;
-        start.initByDefault();
-        start.lineTypeName = L"二点鎖線";
-
-        SHatchFrame taken = take(start, boundary(false, kOuterAttributes));
-        QVERIFY(!taken.drawFrame);
-        QVERIFY(taken.color == kRed);
-        QVERIFY(!taken.lineTypeFlag && taken.lineTypeName == L"破線");
-        QCOMPARE(taken.lineWidthKind, int(KsLineWidth::Bold));
-        QCOMPARE(taken.lineWidth, 0.5);
-
-        SHatchFrame keepAll = start;
-        keepAll.keepDrawFrame = keepAll.keepColor = keepAll.keepLineType = keepAll.keepLineWidth =
-            true;
-        QVERIFY(take(keepAll, boundary(false, kOuterAttributes)) == keepAll);
-
-        // A boundary without attributes changes the draw flag only.
-        SHatchFrame expected = start;
-        expected.drawFrame = false;
-        QVERIFY(take(start, boundary(false)) == expected);
-
-        // Kind 3 sets the flag and leaves the name; unknown width kinds become values.
-        SHatchFrame flagged = start;
-        flagged.lineTypeFlag = false;
-        taken = take(flagged,
-                     boundary(true, {std::nullopt, KsLineType::byLayer(), KsLineWidth(0.25, -1)}));
-        QVERIFY(taken.lineTypeFlag);
-        QVERIFY(taken.lineTypeName == L"二点鎖線");
-        QCOMPARE(taken.lineWidthKind, 0);
-        QCOMPARE(taken.lineWidth, 0.25);
-        QVERIFY(taken.color == start.color);
-
-        SHatchFrame keepType = start;
-        keepType.lineTypeFlag = true;
-        keepType.keepLineType = true;
-        taken = take(keepType, boundary(true, kOuterAttributes));
-        QVERIFY(taken.lineTypeFlag && taken.lineTypeName == L"二点鎖線");
-        QVERIFY(taken.color == kRed);
+        for (const auto& [flag, keeps, from, taken] : cases) {
+            SHatchFrame start;
+            start.initByDefault();
+            start.lineTypeName = L"二点鎖線";
+            start.lineTypeFlag = flag;
+            start.keepDrawFrame = keeps[0] == '1';
+            start.keepColor = keeps[1] == '1';
+            start.keepLineType = keeps[2] == '1';
+            start.keepLineWidth = keeps[3] == '1';
+            auto e = std::make_shared<CCoatingElement>(CCoatingElement::Fill{});
+            e->addBoundary(from);
+            SHatchSettingDlgData data = picking(e, Mode::ModeCoating);
+            auto& pattern = data.drawingHatch.coatingPattern;
+            pattern.outerFrame = pattern.innerFrame = start;
+            QVERIFY(data.setDrawHatchFromHandle());
+            QCOMPARE(text(pattern.outerFrame), QString::fromUtf8(taken));
+            QVERIFY(pattern.innerFrame == start);
+        }
     }
 };
 

@@ -63,6 +63,8 @@ private slots:
         QTest::newRow("truncated")
             << two + "<c x=\"1" << 256 << 100 << "4 行目: ファイルが途中で終わっています"
             << QStringList{"a:2", "b:3"};
+        QTest::newRow("as deep as allowed")
+            << two + "<c><d/></c></r>" << 3 << 100 << "" << QStringList{"a:2", "b:3", "c:4"};
         QTest::newRow("too deep") << two + "<c><d><e/></d></c></r>" << 3 << 100
                                   << "4 行目: 要素の入れ子が深すぎます (上限 3 段)"
                                   << QStringList{"a:2", "b:3", "c:4"};

@@ -9,7 +9,7 @@ using namespace kesto;
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const auto views =
-        ui::config::mouse::readMouseCommands(writeInput(bytesOf(data, size)).toStdWString());
+        ui::config::mouserules::readMouseCommands(writeInput(bytesOf(data, size)).toStdWString());
     for (const auto& view : views) {
         require(!view.viewName.empty());
         for (const auto& id : view.menuCommands)
